@@ -1,0 +1,42 @@
+// Makes a data file of the store: a new file is filled beside its destination and takes its place
+// whole, or not at all.
+#pragma once
+
+#include <QString>
+#include <QVariant>
+#include <memory>
+
+// What makes a file one of ours, in the header of the file.
+inline constexpr int DataFileApplicationId = 0x4C756D76; // "Lumv"
+
+class DataFileWriter {
+public:
+    // Begins a file that is to stand at `path` (a path of the host). Nothing appears there yet.
+    explicit DataFileWriter(const QString& path);
+
+    // Drops what was begun and not finished.
+    ~DataFileWriter();
+
+    // Runs one statement of the schema (CREATE TABLE, CREATE INDEX), written in code and never
+    // built from data.
+    void execute(const char* statement);
+
+    // Adds a row; the values in the order of the table's columns. A QVariant without a value is
+    // Null.
+    void insert(const QString& table, const QVariantList& values);
+
+    // Writes the file to disk and puts it in its place, over a file that stands there. Afterwards
+    // the writer is done.
+    void finish();
+
+    Q_DISABLE_COPY_MOVE(DataFileWriter)
+
+private:
+    class State;
+    std::unique_ptr<State> m_state;
+};
+
+// The schemas, each creating its tables and indexes.
+void createTranslationSchema(DataFileWriter& writer); // tblMain with VerseIndex
+void createTopicsSchema(DataFileWriter& writer);      // tblTopicName, tblData
+void createInfoTable(DataFileWriter& writer);         // tblInfo(title, source, licence, date)
