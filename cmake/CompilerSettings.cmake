@@ -11,11 +11,6 @@ endif()
 
 option(LUMENVIA_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
 
-find_program(CCACHE ccache)
-if(CCACHE)
-    set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE}")
-endif()
-
 add_library(lumenvia_flags INTERFACE)
 add_library(Lumenvia::flags ALIAS lumenvia_flags)
 target_compile_definitions(lumenvia_flags INTERFACE
@@ -30,7 +25,7 @@ if(MSVC)
 else()
     target_compile_options(lumenvia_flags INTERFACE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion
-        -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference)
+        -Wnon-virtual-dtor -Woverloaded-virtual)
     if(LUMENVIA_SANITIZE)
         target_compile_options(lumenvia_flags INTERFACE
             -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -10,6 +10,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+[[noreturn]] void throwOverflow() {
+    throw Error(Error::OverflowNumber, u"Overflow"_s);
+}
+
 [[noreturn]] void throwInvalidUseOfNull() {
     throw Error(Error::InvalidUseOfNull, u"Invalid use of Null"_s);
 }
@@ -18,7 +22,7 @@ template <class Whole>
 Whole narrow(double number) {
     const double whole = std::nearbyint(number);
     if (!(whole >= std::numeric_limits<Whole>::min() && whole <= std::numeric_limits<Whole>::max()))
-        throw Error(Error::OverflowNumber, u"Overflow"_s);
+        throwOverflow();
     return static_cast<Whole>(whole);
 }
 
@@ -43,7 +47,7 @@ double toNumber(const QVariant& value) {
     const double number = value.metaType() == QMetaType::fromType<QString>()
                               ? value.toString().trimmed().toDouble(&converted)
                               : value.toDouble(&converted);
-    if (!converted)
+    if (!converted || !std::isfinite(number))
         throw Error(Error::TypeMismatch, u"Type mismatch"_s);
     return number;
 }
@@ -58,4 +62,10 @@ qint16 toInt16(double number) {
 
 quint8 toByte(double number) {
     return narrow<quint8>(number);
+}
+
+float toSingle(double number) {
+    if (!(std::abs(number) <= std::numeric_limits<float>::max()))
+        throwOverflow();
+    return static_cast<float>(number);
 }

@@ -19,6 +19,8 @@ double toNumber(const QVariant& value);
 // (Overflow); Null and text that is no number as in toNumber.
 int toInteger(const QVariant& value);
 
-// `number` narrowed to 16 bits, or to a byte; a number that does not fit is an Error (Overflow).
+// `number` narrowed to 16 bits, to a byte, or to single precision; a number that does not fit is an
+// Error (Overflow).
 qint16 toInt16(double number);
 quint8 toByte(double number);
+float toSingle(double number);

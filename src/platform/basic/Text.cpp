@@ -41,11 +41,12 @@ public:
     }
 
     double value() const {
+        const bool isExponentWhole = m_hasExponent && m_number.back().isDigit();
+        const QString number
+            = m_hasExponent && !isExponentWhole ? m_number.left(m_mantissaLength) : m_number;
         bool converted = false;
-        double number = m_number.toDouble(&converted);
-        if (!converted && m_hasExponent)
-            number = m_number.left(m_mantissaLength).toDouble(&converted);
-        return converted ? number : 0;
+        const double value = number.toDouble(&converted);
+        return converted ? value : 0;
     }
 
 private:

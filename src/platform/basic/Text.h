@@ -8,7 +8,7 @@
 QString Str(double number);
 
 // The number at the head of a text: blanks are skipped, reading stops at the first character that
-// cannot belong to a decimal number. No number gives 0. Never fails.
+// cannot belong to a decimal number. No number, and one beyond a double, gives 0. Never fails.
 double Val(const QString& text);
 
 // The text without blanks (and only blanks) at both ends.

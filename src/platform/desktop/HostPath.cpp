@@ -77,8 +77,9 @@ QString hostPath(const QString& path) {
     QString separated = path;
     separated.replace(u'\\', u'/');
     if (hasDriveLetter(separated)) {
-        const QString drives = programFolder() + u"/drives"_s;
-        return resolveNames(drives, QString(separated).remove(1, 1).split(u'/'));
+        QStringList names = separated.mid(2).split(u'/');
+        names.prepend(separated.left(1).toLower());
+        return resolveNames(programFolder() + u"/drives"_s, names);
     }
     if (separated.startsWith(u'/'))
         return resolveNames({}, separated.split(u'/'));

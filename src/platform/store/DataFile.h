@@ -9,6 +9,9 @@
 // What makes a file one of ours, in the header of the file.
 inline constexpr int DataFileApplicationId = 0x4C756D76; // "Lumv"
 
+// Every operation throws
+// Error::StorageFailure, with what is wrong, when the file cannot be written, and
+// Error::AlreadyClosed when the writer is done.
 class DataFileWriter {
 public:
     // Begins a file that is to stand at `path` (a path of the host). Nothing appears there yet.
@@ -25,15 +28,18 @@ public:
     // Null.
     void insert(const QString& table, const QVariantList& values);
 
-    // Writes the file to disk and puts it in its place, over a file that stands there. Afterwards
-    // the writer is done.
+    // Writes the file to disk and puts it in its place, over a file that stands there, which no
+    // program may be writing at that moment. Afterwards the writer is done; after an Error too,
+    // and then nothing of the new file is left.
     void finish();
 
     Q_DISABLE_COPY_MOVE(DataFileWriter)
 
 private:
     class State;
-    std::unique_ptr<State> m_state;
+    State& state() const;
+
+    std::unique_ptr<State> m_state; // gone when the writer is done
 };
 
 // The schemas, each creating its tables and indexes.

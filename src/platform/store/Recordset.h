@@ -6,6 +6,9 @@
 // in row order. Both can be edited and both see every committed change of a row at once, also
 // another program's. One step costs one indexed step, whatever the table's size.
 //
+// A snapshot (type 4) is a dynaset that cannot be edited. No cursor holds a lock between
+// operations: other programs can write at any time.
+//
 // Every operation throws Error::ObjectNotSet on a handle that stands on nothing,
 // Error::AlreadyClosed after Close, and Error::StorageFailure (with the engine's text) when the
 // file cannot be read or written. A failed operation leaves cursor and file as they were.
@@ -31,6 +34,10 @@ public:
     void setValue(const QVariant& value);
     Field& operator=(const QVariant& value);
 
+    // Assigns the other field's value; a field is never made to stand for another.
+    Field& operator=(const Field& other);
+    Field(const Field& other) = default;
+
     QString Name() const;
 
 private:
@@ -54,8 +61,10 @@ public:
 
     // Stands on the row whose key equals the values, given in key order as numbers or numeric
     // texts; fewer values than key fields match the first row of that head. The only comparison is
-    // "=". On no match NoMatch holds and there is no current row (neither Bof nor Eof holds).
-    // Errors: NotSupportedHere on a dynaset or without an index.
+    // "=". On no match NoMatch holds and there is no current row (neither Bof nor Eof holds). Texts
+    // in a key of texts are compared as they stand.
+    // Errors: NotSupportedHere on a dynaset or without an index; DataTypeConversion for a text that
+    // is no number; InvalidPropertyValue for more values than key fields, or none.
     template <class... Keys>
     void Seek(const QString& comparison, Keys... keys) {
         seek(comparison, {QVariant(keys)...});
@@ -75,7 +84,8 @@ public:
     void MoveNext();
     void MovePrevious();
 
-    // True only after a move off that end, or both on an empty cursor.
+    // True only after a move off that end; both where there is no current row and the cursor has no
+    // row at all by now.
     bool Bof() const;
     bool Eof() const; // EOF is a macro of the C library
 

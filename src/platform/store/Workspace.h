@@ -61,7 +61,7 @@ private:
 
 class DBEngine {
 public:
-    // Always succeeds; the names are kept and not checked against anything.
+    // Always succeeds; the names and the password are not checked against anything.
     static Workspace
     CreateWorkspace(const QString& name, const QString& user, const QString& password);
 };

@@ -1,0 +1,41 @@
+// Starts the toolkit and the desktop, sets up the program's folder, and hands over to Main.
+#include "app/FirstPage.h"
+#include "app/ProgramFolder.h"
+
+#include "Configuration.h"
+#include "controls/Handler.h"
+#include "core/NewSetup.h"
+#include "core/Settings.h"
+#include "desktop/QtDesktop.h"
+#include "reader/frmMain.h"
+#include "settings/SettingsStore.h"
+
+#include <QApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+int run(QApplication& application) {
+    prepareProgramFolder();
+    resetSettings();
+    runHandler(Main);
+    if (programHasEnded())
+        return 1;
+    return endsWithFirstPage() ? finishFirstPage(form<frmMain>()) : application.exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(u"lumenvia"_s);
+    QApplication::setApplicationDisplayName(u"Lumenvia"_s);
+    QApplication::setDesktopFileName(u"lumenvia"_s);
+    QtDesktop realDesktop;
+    setDesktop(&realDesktop);
+    const int code = run(application);
+    forms::discardAll();
+    flushSettings();
+    return code;
+}

@@ -1,0 +1,158 @@
+#include "controls/Form.h"
+
+#include "controls/CommandButton.h"
+#include "desktop/Desktop.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+
+namespace {
+
+// Shows each key to the form that it is meant for, before the control with the focus gets it.
+class KeyPreviewFilter final : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress || !watched->isWidgetType())
+            return false;
+        auto* form = qobject_cast<Form*>(static_cast<QWidget*>(watched)->window());
+        if (!form || !form->KeyPreview())
+            return false;
+        // A key that nobody wants climbs to the form; only its first station counts.
+        const QWidget* first = form->focusWidget() ? form->focusWidget() : form;
+        return watched == first && form->previewKey(static_cast<QKeyEvent&>(*event));
+    }
+};
+
+void installKeyPreview() {
+    static QPointer<KeyPreviewFilter> filter;
+    if (filter)
+        return;
+    filter = new KeyPreviewFilter(qApp);
+    qApp->installEventFilter(filter);
+}
+
+} // namespace
+
+Form::Form(const QString& name)
+    : QWidget(nullptr, Qt::Window)
+    , m_fontSize(font().pointSizeF()) {
+    setObjectName(name);
+    installKeyPreview();
+}
+
+void Form::setFontSize(double points) {
+    if (isFontSize(points))
+        m_fontSize = points;
+}
+
+void Form::showHourglass() {
+    setCursor(Qt::WaitCursor);
+}
+
+void Form::showNormalPointer() {
+    unsetCursor();
+}
+
+void Form::Load() {
+    if (m_state != State::Made)
+        return;
+    m_state = State::Loaded;
+    Form_Load();
+}
+
+void Form::Show() {
+    Load();
+    if (m_state == State::Unloaded)
+        return;
+    show();
+    raise();
+    activateWindow();
+}
+
+void Form::ShowModal() {
+    Load();
+    if (m_state != State::Unloaded)
+        desktop().runModal(*this);
+}
+
+void Form::Unload() {
+    if (m_state == State::Unloaded)
+        return;
+    const bool loaded = m_state == State::Loaded;
+    m_state = State::Unloaded;
+    if (loaded)
+        Form_Unload();
+    hide();
+    if (m_whenUnloaded)
+        m_whenUnloaded();
+    deleteLater();
+}
+
+void Form::moveFocus(QWidget& widget, FocusListener& listener) {
+    if (m_focusWidget == &widget)
+        return;
+    FocusListener* left = m_focusWidget ? m_focusListener : nullptr;
+    m_focusWidget = &widget;
+    m_focusListener = &listener;
+    if (left)
+        left->raiseLostFocus();
+    listener.raiseGotFocus();
+}
+
+bool Form::previewKey(QKeyEvent& event) {
+    int code = keyCodeOf(event);
+    if (code == 0)
+        return false; // a key that the program has no code for
+    runHandler([&] { Form_KeyDown(code, shiftOf(event)); });
+    return code == 0;
+}
+
+void Form::raiseGotFocus() {
+    Form_GotFocus();
+}
+
+void Form::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && isLoaded())
+        runHandler([this] { Form_Activate(); });
+}
+
+void Form::closeEvent(QCloseEvent* event) {
+    if (programHasEnded())
+        return;
+    event->ignore();
+    if (CommandButton* button = closingButton())
+        button->setValue(true);
+    else
+        runHandler([this] { Unload(); });
+}
+
+void Form::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    focusReached(*this, *this);
+}
+
+void Form::keyPressEvent(QKeyEvent* event) {
+    CommandButton* button = event->key() == Qt::Key_Escape ? closingButton() : nullptr;
+    if (button)
+        button->setValue(true);
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void Form::mousePressEvent(QMouseEvent* event) {
+    QWidget::mousePressEvent(event);
+    runHandler([this] { Form_Click(); });
+}
+
+void Form::paintEvent(QPaintEvent* event) {
+    QWidget::paintEvent(event);
+    runHandler([this] { Form_Paint(); });
+}
+
+void Form::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    runHandler([this] { Form_Resize(); });
+}

@@ -1,0 +1,58 @@
+// The menus of a window: arrays of items that handlers address by index, one array a drop-down.
+#pragma once
+
+#include "controls/ControlArray.h"
+
+#include <QAction>
+#include <QMenu>
+
+class MenuItem : public QAction {
+    Q_OBJECT
+
+public:
+    Event<> Click;
+
+    MenuItem(QObject* parent, const QString& name, const QString& caption);
+
+    QString Caption() const { return text(); }
+    void setCaption(const QString& caption) { setText(caption); }
+    bool Checked() const { return isChecked(); }
+
+    // An item gets its check mark from the program alone; a click does not turn it.
+    void setChecked(bool checked);
+    bool Enabled() const { return isEnabled(); }
+    bool Visible() const { return isVisible(); }
+
+private:
+    bool m_checked = false;
+};
+
+// One row of a menu's table. A caption of "-" is a separator. A hidden item is never shown, but its
+// shortcut works.
+struct MenuRow {
+    int index;
+    QString caption;
+    QString shortcut; // "Ctrl+N", or empty
+    bool hidden = false;
+};
+
+class MenuArray : public ControlArray<MenuItem> {
+public:
+    // Fills `menu` with the rows; items are named `name` and the index in brackets. Shortcuts of
+    // hidden items belong to `window`.
+    MenuArray(QWidget* window, QMenu* menu, const QString& name, const QList<MenuRow>& rows);
+
+    // Adds an invisible item at the menu's end, or takes an item away.
+    // Error::SubscriptOutOfRange if the index is taken, or not there.
+    MenuItem& Load(int index);
+    void Unload(int index);
+
+    QMenu* menu() const { return m_menu; }
+
+private:
+    MenuItem& addRow(const MenuRow& row);
+
+    QWidget* m_window;
+    QMenu* m_menu;
+    QString m_name;
+};

@@ -1,0 +1,14 @@
+// The real desktop, on Qt's dialogs and services.
+#pragma once
+
+#include "desktop/Desktop.h"
+
+class QtDesktop final : public Desktop {
+public:
+    Answer showMessage(const Message& message) override;
+    void runModal(QWidget& window) override;
+    void openLink(const QString& link) override;
+    void closeHelp(const QString& helpFile) override;
+    void beep() override;
+    [[noreturn]] void endProgram() override;
+};

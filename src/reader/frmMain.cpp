@@ -1,0 +1,178 @@
+// Load and unload of the main window.
+#include "reader/frmMain.h"
+
+#include "Configuration.h"
+#include "basic/Conversion.h"
+#include "basic/Error.h"
+#include "core/BookNames.h"
+#include "core/Catalogue.h"
+#include "core/GlobalCode.h"
+#include "core/Settings.h"
+#include "desktop/Desktop.h"
+#include "desktop/FileAttributes.h"
+#include "desktop/HostPath.h"
+#include "prefs/Internet.h"
+#include "settings/SettingsStore.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString& fileOf(int row) {
+    if (row < 0 || row >= CatalogueSize)
+        throw Error(Error::SubscriptOutOfRange, u"Subscript out of range"_s);
+    return BibleFile[static_cast<size_t>(row)];
+}
+
+// The path of a row's file; empty where the row or its file is missing.
+QString installedFile(int row) {
+    QString path;
+    attempt([&] { path = FindDataFile(fileOf(row)); });
+    return path == u"BAD" ? QString() : path;
+}
+
+void endWithoutTranslation() {
+    const QString folder = programFolder();
+    MsgBox(
+        u"Unable to load any Bible Database [kjv.mdb, darby.mdb, rsv.mdb, ylt.mdb etc...]. Download your copy from "_s
+            + configuration::HomeUrl + u"\r\n\r\nAfter you get it, unzip it into "_s + folder
+            + u"\r\n\r\n"_s,
+        MessageIcon::Stop, u"Need Plug in"_s);
+    MsgBox(
+        u"Make sure that there is at least one of these in "_s + folder, MessageIcon::Stop,
+        u"Need Bible"_s);
+    desktop().endProgram();
+}
+
+} // namespace
+
+frmMain::frmMain()
+    : Form(u"frmMain"_s) {
+    layOut();
+}
+
+void frmMain::Form_Load() {
+    StartingUp = On;
+    InitGlobals();
+    LoadSettings();
+    if (FindDataFile(u"bible.hlp"_s) != u"BAD")
+        HelpFile = u"bible.hlp"_s;
+    ScreenBusy = On;
+    HoldUpdates = Off;
+    LoadDatabases();
+    SelectBookNames(CurrentBible);
+    Screensetup();
+    CreateMenu();
+    FormatText();
+    ScreenBusy = Off;
+}
+
+void frmMain::LoadDatabases() {
+    FoundBible = Off;
+    QString path;
+    // The row the user chose last, or else the first that is there.
+    for (int row = -1; row < CatalogueSize && FoundBible == Off; ++row) {
+        const int candidate = row < 0 ? BootUpBible : row;
+        path = installedFile(candidate);
+        if (path.isEmpty())
+            continue;
+        FoundBible = On;
+        CurrentBible = toInt16(candidate);
+        SelectBookNames(CurrentBible);
+    }
+    HomePath = path;
+    SaveSettings();
+    if (FoundBible == Off)
+        endWithoutTranslation();
+    UpdateMenu();
+    attempt([&] {
+        if (GetAttr(path) != 0)
+            clearAttributes(path);
+    });
+    openTranslation(path);
+}
+
+void frmMain::openTranslation(const QString& path) {
+    try {
+        wsBible = DBEngine::CreateWorkspace(u"Bible"_s, u"Admin"_s, {});
+        dbBible = wsBible.OpenDatabase(path);
+    } catch (const Error& error) {
+        MsgBox(u"Database Load Error: "_s + error.text(), MessageIcon::Stop);
+        return;
+    }
+    try {
+        rsBible = dbBible.OpenRecordset(u"tblMain"_s, dbOpenTable);
+        rsBible.Index(u"VerseIndex"_s);
+        rsBible.MoveFirst();
+    } catch (const Error& error) {
+        MsgBox(u"Database Assign Error: "_s + error.text(), MessageIcon::Information, u"Error"_s);
+        return;
+    }
+    BibleFile[static_cast<size_t>(CurrentBible)] = path;
+}
+
+void frmMain::Form_Unload() {
+    attempt([] {
+        SaveSetting(ApplicationName, u"Last"_s, u"book"_s, toText(rsBible.Fields(1).Value()));
+    });
+    // One too high on purpose; nothing reads it.
+    attempt([] {
+        SaveSetting(
+            ApplicationName, u"Last"_s, u"chapter"_s,
+            QString::number(toInteger(rsBible.Fields(2).Value()) + 1));
+    });
+    deleteTempFiles();
+    attempt([] { desktop().closeHelp(HelpFile); });
+    SaveSettings();
+    saveHistory();
+    attempt([this] { offerUpdates(); });
+    desktop().endProgram();
+}
+
+void frmMain::deleteTempFiles() {
+    for (size_t slot = 1; slot < TempFiles.size() && FileExists(TempFiles[slot]); ++slot)
+        QFile::remove(hostPath(TempFiles[slot]));
+}
+
+// Asks once per user.
+void frmMain::offerUpdates() {
+    const QString program = QCoreApplication::applicationName();
+    if (GetSetting(program, u"notified"_s, u"done"_s, u"no"_s) != u"no")
+        return;
+    SaveSetting(program, u"notified"_s, u"done"_s, u"yes"_s);
+    flushSettings();
+    const Answer answer = MsgBox(
+        u"Would you like to be notified of FREE updates? (All Updates are free forever)\r\n\r\n"
+        u"This sends a blank email to "_s
+            + configuration::UpdateAddress,
+        MessageIcon::Question, {}, MessageButtons::YesNo);
+    if (answer != Answer::Yes)
+        return;
+    OpenUrl(
+        u"mailto:"_s + configuration::UpdateAddress + u"?subject=Just send this email [Lumenvia "_s
+        + QString::number(configuration::VersionMajor) + u'.'
+        + QString::number(configuration::VersionMinor) + u']');
+}
+
+void frmMain::Form_Activate() {
+    Resize();
+}
+
+void frmMain::Form_Paint() {
+    Resize();
+}
+
+void frmMain::Form_Resize() {
+    Resize();
+}
+
+void frmMain::Form_GotFocus() {
+    setFocus();
+}
+
+void frmMain::CreateMenu() {
+    saveBookmarks();
+}

@@ -1,0 +1,104 @@
+#include "support/ProgramFixture.h"
+
+#include "basic/Error.h"
+#include "controls/Forms.h"
+#include "core/BookNames.h"
+#include "core/GlobalCode.h"
+#include "core/NewSetup.h"
+#include "core/Settings.h"
+#include "settings/SettingsStore.h"
+#include "store/DataFile.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+Verses chapterOf(int book, int chapter, int count) {
+    Verses verses;
+    for (int verse = 1; verse <= count; ++verse) {
+        const QString place = u"%1:%2:%3"_s.arg(book).arg(chapter).arg(verse);
+        verses.append({book, chapter, verse, u"Verse "_s + place + u'.'});
+    }
+    return verses;
+}
+
+Verses sampleVerses() {
+    return chapterOf(1, 1, 31) + chapterOf(1, 2, 25) + chapterOf(19, 119, 176)
+           + chapterOf(40, 1, 25) + chapterOf(40, 2, 23) + chapterOf(66, 22, 21);
+}
+
+ProgramFixture::ProgramFixture()
+    : m_homeBefore(qgetenv("LUMENVIA_HOME")) {
+    qputenv("LUMENVIA_HOME", m_home.path().toLocal8Bit());
+    QDir::setCurrent(m_home.path());
+    setSettingsFolder(m_settings.path());
+    resetProgram();
+}
+
+ProgramFixture::~ProgramFixture() {
+    forms::discardAll();
+    resetProgram();
+    setSettingsFolder({});
+    QDir::setCurrent(QDir::rootPath());
+    qputenv("LUMENVIA_HOME", m_homeBefore);
+}
+
+void ProgramFixture::resetProgram() {
+    rsBible = {};
+    dbBible = {};
+    wsBible = {};
+    CurrentBible = 0;
+    for (Flag* flag :
+         {&FoundBible, &StartingUp, &HoldUpdates, &SkipComboClick, &QueryLock, &SettingCombos,
+          &InQuery, &ScreenBusy, &TipsRequested})
+        *flag = Off;
+    for (QString* text : {&HomePath, &HelpFile, &IndexText, &PopupWord})
+        text->clear();
+    DownloadItem = 0;
+    TempFiles.fill({});
+    BookNames.fill({});
+    resetSettings();
+    InitGlobals();
+}
+
+void ProgramFixture::addTranslation(const QString& name, const Verses& verses) {
+    DataFileWriter writer(programFile(name));
+    createTranslationSchema(writer);
+    int id = 0;
+    for (const Verse& verse : verses)
+        writer.insert(
+            u"tblMain"_s, {++id, verse.book, verse.chapter, verse.verse, verse.body, verse.note});
+    writer.finish();
+}
+
+void ProgramFixture::openTranslation(const Verses& verses, const QString& name) {
+    addTranslation(name, verses);
+    CurrentBible = 2;
+    StartingUp = On; // names alone, no list
+    SelectBookNames(0);
+    StartingUp = Off;
+    wsBible = DBEngine::CreateWorkspace(u"Bible"_s, u"Admin"_s, {});
+    dbBible = wsBible.OpenDatabase(programFile(name));
+    rsBible = dbBible.OpenRecordset(u"tblMain"_s, dbOpenTable);
+    rsBible.Index(u"VerseIndex"_s);
+}
+
+void ProgramFixture::startProgram() {
+    if (QDir(m_home.path()).isEmpty())
+        addTranslation(u"KJV.mdb"_s, sampleVerses());
+    Main();
+}
+
+QString ProgramFixture::position() {
+    QString place = u"none"_s;
+    attempt([&] {
+        if (rsBible.Bof())
+            place = u"BOF"_s;
+        if (rsBible.Eof())
+            place = u"EOF"_s;
+        place = u"%1:%2:%3"_s.arg(rsBible.Fields(1).Value().toString())
+                    .arg(rsBible.Fields(2).Value().toString())
+                    .arg(rsBible.Fields(3).Value().toString());
+    });
+    return place;
+}
