@@ -27,9 +27,10 @@ function(lumenvia_library name)
     endif()
 endfunction()
 
-# lumenvia_test(name SOURCES ... LINKS ... [ENVIRONMENT ...]): one test program, one CTest entry.
+# lumenvia_test(name SOURCES ... LINKS ... [BIBLES]): one test program, one CTest entry. With BIBLES
+# it finds the real translations in the folder that the variable LUMENVIA_BIBLES names.
 function(lumenvia_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "TIMEOUT" "SOURCES;LINKS;ENVIRONMENT")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "BIBLES" "TIMEOUT" "SOURCES;LINKS;ENVIRONMENT")
     add_executable(test_${name} ${arg_SOURCES})
     target_link_libraries(test_${name} PRIVATE ${arg_LINKS} GTest::gtest Lumenvia::flags)
     target_include_directories(test_${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
@@ -44,5 +45,8 @@ function(lumenvia_test name)
     endif()
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${arg_TIMEOUT}
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;${arg_ENVIRONMENT}")
+        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LUMENVIA_BIBLES=${PROJECT_BINARY_DIR}/bibles;${arg_ENVIRONMENT}")
+    if(arg_BIBLES)
+        set_tests_properties(${name} PROPERTIES FIXTURES_REQUIRED bibles)
+    endif()
 endfunction()

@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Words that the tables do not hold: one with rare letters, one of common letters alone.
-const QString RareWord = u"Melchizedek qu"_s;
-const QString CommonWord = u"in the earth and"_s;
+const QString RareWord = u"Melchizedek quav"_s;
+const QString CommonWord = u"ethis arento the"_s;
 
 // The yardstick: the first letter through a fold table, then the rest.
 class PlainScan {

@@ -11,6 +11,7 @@
 #include "settings/SettingsStore.h"
 
 #include <QApplication>
+#include <QIcon>
 
 using namespace Qt::StringLiterals;
 
@@ -30,8 +31,8 @@ int run(QApplication& application) {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"lumenvia"_s);
-    QApplication::setApplicationDisplayName(u"Lumenvia"_s);
     QApplication::setDesktopFileName(u"lumenvia"_s);
+    QApplication::setWindowIcon(QIcon(u":/icons/lumenvia.svg"_s));
     QtDesktop realDesktop;
     setDesktop(&realDesktop);
     const int code = run(application);

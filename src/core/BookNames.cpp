@@ -107,6 +107,10 @@ const std::array<QString, BookCount + 1>& bookTable(int row) {
 
 } // namespace
 
+int chapterCount(int book) {
+    return book >= 1 && book <= BookCount ? ChaptersInBook[static_cast<size_t>(book)] : 0;
+}
+
 QString bookName(const QVariant& book) {
     const double number = Val(toText(book));
     return number >= 1 && number <= BookCount ? BookNames[static_cast<size_t>(number) - 1]

@@ -17,6 +17,9 @@ extern const std::array<QString, BookCount + 1> BookNamesDutch;
 // The number of chapters by book number, for every language; entry 0 is 0.
 extern const std::array<int, BookCount + 1> ChaptersInBook;
 
+// The same for any number: 0 outside 1 to 66.
+int chapterCount(int book);
+
 // The names in use, by book number minus 1: those of the open translation's language.
 extern std::array<QString, BookCount> BookNames;
 

@@ -78,22 +78,26 @@ QString printedVerse() {
 }
 
 // The rows from the cursor to the end of its chapter, less one. Where the table ends with the
-// chapter, the last row goes uncounted and the cursor lands one row later than it stood.
+// chapter, the last row goes uncounted and the cursor lands one row later than it stood; the result
+// of a query loses no row that way, or a single hit would not be seen.
 int versesToChapterEnd() {
     qint16 count = 0;
     QVariant chapter;
     attempt([&] { chapter = rsBible.Fields(2).Value(); });
     bool inChapter = true;
+    bool ended = false;
     while (inChapter) {
-        if (!attempt([] { rsBible.MoveNext(); }) || isBehindLastRow())
+        ended = !attempt([] { rsBible.MoveNext(); }) || isBehindLastRow();
+        if (ended)
             break;
         attempt([&] { count = toInt16(count + 1); });
         inChapter = false;
         attempt([&] { inChapter = areEqual(rsBible.Fields(2).Value(), chapter); });
     }
-    for (int step = 0; step < count; ++step)
+    const bool wholeResult = ended && InQuery == On;
+    for (int step = wholeResult ? -1 : 0; step < count; ++step)
         attempt([] { rsBible.MovePrevious(); });
-    return count - 1;
+    return wholeResult ? count : count - 1;
 }
 
 // The verses from the cursor on, up to and including number `last`. `shown` becomes the number of

@@ -52,6 +52,52 @@ void endWithoutTranslation() {
 frmMain::frmMain()
     : Form(u"frmMain"_s) {
     layOut();
+    wireControls();
+    wireMenus();
+    disableComingCommands();
+    // The reader can page from the first moment.
+    setKeyPreview(true);
+    txtMain.setFocus();
+}
+
+void frmMain::wireControls() {
+    on(cmdMain, &PictureButton::Click, this, &frmMain::cmdMain_Click);
+    on(cmdMain, &PictureButton::MouseMove, this, &frmMain::cmdMain_MouseMove);
+    on(cmdComment, &CommandButton::MouseMove, this, &frmMain::cmdComment_MouseMove);
+    on(cmbTestament, &ComboBox::Click, this, &frmMain::cmbTestament_Click);
+    on(cmbTestament, &ComboBox::GotFocus, this, &frmMain::cmbTestament_GotFocus);
+    on(cboBook, &ComboBox::Click, this, &frmMain::cboBook_Click);
+    on(cboBook, &ComboBox::GotFocus, this, &frmMain::cboBook_GotFocus);
+    on(cboChapter, &ComboBox::Click, this, &frmMain::cboChapter_Click);
+    on(cboChapter, &ComboBox::GotFocus, this, &frmMain::cboChapter_GotFocus);
+    on(cboVerse, &ComboBox::Click, this, &frmMain::cboVerse_Click);
+    on(cboVerse, &ComboBox::GotFocus, this, &frmMain::cboVerse_GotFocus);
+    for (ComboBox* list : {&cmbTestament, &cboBook, &cboChapter, &cboVerse}) {
+        on(*list, &ComboBox::KeyUp, this, &frmMain::list_KeyUp);
+        on(*list, &ComboBox::LostFocus, this, &frmMain::list_LostFocus);
+    }
+    on(tree, &TreeView::NodeClick, this, &frmMain::Tree_NodeClick);
+    on(txtMain, &RichTextBox::GotFocus, this, &frmMain::txtMain_GotFocus);
+    on(txtMain, &RichTextBox::LostFocus, this, &frmMain::txtMain_LostFocus);
+    on(txtMain, &RichTextBox::KeyDown, this, &frmMain::txtMain_KeyDown);
+    on(txtMain, &RichTextBox::MouseUp, this, &frmMain::txtMain_MouseUp);
+    on(txtFind, &TextBox::GotFocus, this, &frmMain::txtFind_GotFocus);
+    on(txtFind, &TextBox::KeyPress, this, &frmMain::txtFind_KeyPress);
+    on(txtFind, &TextBox::MouseMove, this, &frmMain::txtFind_MouseMove);
+    on(txtNote, &MultilineTextBox::Change, this, &frmMain::txtNote_Change);
+    on(txtNote, &MultilineTextBox::GotFocus, this, &frmMain::txtNote_GotFocus);
+    on(txtNote, &MultilineTextBox::KeyPress, this, &frmMain::txtNote_KeyPress);
+    on(txtNote, &MultilineTextBox::KeyUp, this, &frmMain::txtNote_KeyUp);
+    on(txtNote, &MultilineTextBox::LostFocus, this, &frmMain::txtNote_LostFocus);
+}
+
+void frmMain::disableComingCommands() {
+    for (const QString& name : comingCommands()) {
+        if (auto* control = findChild<QWidget*>(name))
+            control->setEnabled(false);
+        if (auto* item = findChild<MenuItem*>(name))
+            item->setEnabled(false);
+    }
 }
 
 void frmMain::Form_Load() {
@@ -68,6 +114,9 @@ void frmMain::Form_Load() {
     CreateMenu();
     FormatText();
     ScreenBusy = Off;
+    mnuedit(5).setChecked(HideNotes != Off);
+    mnuedit(6).setChecked(HideToolbar != Off);
+    attempt([this] { mnubible(CurrentBible).setChecked(true); });
 }
 
 void frmMain::LoadDatabases() {
@@ -115,6 +164,7 @@ void frmMain::openTranslation(const QString& path) {
 }
 
 void frmMain::Form_Unload() {
+    keepUnsavedNote();
     attempt([] {
         SaveSetting(ApplicationName, u"Last"_s, u"book"_s, toText(rsBible.Fields(1).Value()));
     });
@@ -161,6 +211,14 @@ void frmMain::Form_Activate() {
     Resize();
 }
 
+void frmMain::windowLeft() {
+    writePendingNote();
+}
+
+void frmMain::Form_Click() {
+    Resize();
+}
+
 void frmMain::Form_Paint() {
     Resize();
 }
@@ -170,9 +228,7 @@ void frmMain::Form_Resize() {
 }
 
 void frmMain::Form_GotFocus() {
+    setKeyPreview(true);
+    Resize();
     setFocus();
-}
-
-void frmMain::CreateMenu() {
-    saveBookmarks();
 }

@@ -1,6 +1,6 @@
 // The layout of the main window.
 #include "basic/Error.h"
-#include "core/BookNames.h"
+#include "controls/FlowLayout.h"
 #include "core/GlobalCode.h"
 #include "reader/frmMain.h"
 
@@ -27,6 +27,16 @@ const ImageList treeImages = {
     {u"Chapter"_s, u":/icons/tree/chapter.svg"_s},
 };
 
+constexpr int StripMargin = 6;
+constexpr int StripSpacing = 6;
+
+QWidget* makeSeparator(QWidget* group) {
+    auto* line = new QFrame(group);
+    line->setFrameShape(QFrame::VLine);
+    line->setFrameShadow(QFrame::Sunken);
+    return line;
+}
+
 } // namespace
 
 void frmMain::layOut() {
@@ -37,6 +47,7 @@ void frmMain::layOut() {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins({});
     column->setSpacing(0);
+    column->setMenuBar(&mnuMain);
     column->addWidget(&pnlMain);
     column->addWidget(&vbuSplitter1, 1);
     layOutStrip();
@@ -46,14 +57,39 @@ void frmMain::layOut() {
 }
 
 void frmMain::layOutStrip() {
-    auto* row = new QHBoxLayout(&pnlMain);
-    row->setContentsMargins(8, 6, 8, 6);
-    row->setSpacing(6);
-    for (QWidget* box :
-         {static_cast<QWidget*>(&cmbTestament), static_cast<QWidget*>(&cboBook),
-          static_cast<QWidget*>(&cboChapter), static_cast<QWidget*>(&cboVerse)})
-        row->addWidget(box);
-    row->addWidget(&txtFind, 1);
+    using enum ToolBarButton::Group;
+    auto* strip = new FlowLayout(&pnlMain, StripSpacing);
+    strip->setContentsMargins(StripMargin, StripMargin, StripMargin, StripMargin);
+    for (const auto group : {Output, Clipboard, Find, Searches, Tools})
+        strip->addWidget(makeGroup(group));
+}
+
+// One group of the strip. The lists and the find box stand before the buttons that search for it.
+QWidget* frmMain::makeGroup(ToolBarButton::Group group) {
+    auto* widget = new QWidget(&pnlMain);
+    auto* row = new QHBoxLayout(widget);
+    row->setContentsMargins({});
+    row->setSpacing(2);
+    if (group == ToolBarButton::Group::Find) {
+        for (ComboBox* list : {&cmbTestament, &cboBook, &cboChapter, &cboVerse})
+            row->addWidget(list);
+        row->addWidget(&txtFind, 1);
+        widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    }
+    for (const ToolBarButton& button : toolBarButtons()) {
+        if (button.group == group)
+            row->addWidget(makeButton(button, widget));
+    }
+    if (group != ToolBarButton::Group::Tools)
+        row->addWidget(makeSeparator(widget));
+    return widget;
+}
+
+PictureButton* frmMain::makeButton(const ToolBarButton& button, QWidget* group) {
+    const QString name = u"cmdMain("_s + QString::number(button.index) + u')';
+    return &cmdMain.add(
+        button.index, std::make_unique<PictureButton>(
+                          group, ControlText{name, {}, button.toolTip}, button.picture));
 }
 
 void frmMain::layOutNotePane() {
@@ -66,6 +102,7 @@ void frmMain::layOutNotePane() {
     column->setSpacing(4);
     column->addLayout(heading);
     column->addWidget(&txtNote, 1);
+    cmdComment.setShortcut({}); // Alt+C belongs to the menu of translations
     txtNote.setFrameShape(QFrame::NoFrame);
     tree.setFrameShape(QFrame::NoFrame);
 }
@@ -87,12 +124,6 @@ void frmMain::Screensetup() {
     });
     ScreenBusy = On;
     ScreenBusy = Off;
-}
-
-void frmMain::fillBookList() {
-    cboBook.Clear();
-    cboBook.AddItems(QStringList(BookNames.begin(), BookNames.end()));
-    cboBook.setListIndex(0);
 }
 
 void frmMain::Resize() {

@@ -23,12 +23,18 @@ QColor userColor(int red, int green, int blue) {
 void frmMain::UpDateBibleText(bool WholeChapter) {
     if (StartingUp == On || HoldUpdates == On)
         return;
-    // Paging past the end shows an empty page that names the last verse.
+    // Paging past the end shows an empty page that names the last verse, and before the start the
+    // first page from its first verse; without a row the title would draw a page of its own.
     attempt([] {
         if (rsBible.Eof())
             rsBible.MoveLast();
+        else if (rsBible.Bof())
+            rsBible.MoveFirst();
     });
-    showReference();
+    m_pageTop = currentVerseRow();
+    showTitle(u"] "_s);
+    if (HideNotes == Off)
+        showNoteHeading();
     setFontSize(MainFontSize);
     const ComposedPage page = composePage(WholeChapter);
     attempt([&] { txtMain.setTextRTF(page.rtf); });
@@ -38,12 +44,11 @@ void frmMain::UpDateBibleText(bool WholeChapter) {
     markFoundText();
 }
 
-void frmMain::showReference() {
-    setCaption(
-        u"Lumenvia Professional"_s + u" "_s + translationName() + u" ["_s + VerseReference()
-        + u"] "_s);
-    if (HideNotes == Off)
-        lblCurrentNote.setCaption(u"Your note for: "_s + VerseReference());
+void frmMain::showTitle(const QString& end) {
+    const QString title =
+        u"Lumenvia Professional"_s + u" "_s + translationName() + u" ["_s + VerseReference() + end;
+    if (title != Caption())
+        setCaption(title);
 }
 
 // Puts the cursor to where the paging keys start from.
@@ -54,20 +59,9 @@ void frmMain::rewind(int shown) {
     }
     for (int step = 0; step < shown - 1; ++step)
         attempt([] { rsBible.MovePrevious(); });
-}
-
-// The note of the row now under the cursor. The box is never quite empty.
-void frmMain::showNote() {
-    QString note = u" "_s;
-    attempt([&] {
-        const QVariant stored = rsBible.Fields(5).Value();
-        if (isNull(stored))
-            return;
-        note = toText(stored);
-        if (note.size() < 2)
-            note += u' ';
-    });
-    txtNote.setText(note);
+    // A page of one hit, the last: its note needs a row.
+    if (isBehindLastRow())
+        attempt([] { rsBible.MoveLast(); });
 }
 
 // The first place of the find bar's text on the page.

@@ -112,10 +112,11 @@ TEST_F(Shutdown, theFirstEndAsksAboutUpdatesAndNoIsEnough) {
 
 TEST_F(Shutdown, yesWritesToTheUpdateAddress) {
     desktop.expectMessage(updatesQuestion, Answer::Yes);
+    const QString version = QString::number(configuration::VersionMajor) + u'.'
+                            + QString::number(configuration::VersionMinor);
     desktop.expectLink(
         u"mailto:"_s + configuration::UpdateAddress
-        + u"?subject=Just send this email [Lumenvia %1.%2]"_s.arg(configuration::VersionMajor)
-              .arg(configuration::VersionMinor));
+        + u"?subject=Just%20send%20this%20email%20[Lumenvia%20"_s + version + u']');
     closeWindow();
 }
 

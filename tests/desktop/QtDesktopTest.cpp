@@ -1,7 +1,7 @@
 #include "desktop/QtDesktop.h"
 
-#include <QApplication>
 #include <QAbstractButton>
+#include <QApplication>
 #include <QMessageBox>
 #include <QTimer>
 #include <gtest/gtest.h>

@@ -116,6 +116,27 @@ TEST_F(Page, inAQueryGoesBackByTheVersesItWrote) {
     EXPECT_EQ(position(), u"40:1:2"_s);
 }
 
+TEST_F(Page, inAQueryTheLastRunOfMatchesIsWhole) {
+    rsBible = dbBible.OpenRecordset(
+        u"SELECT * FROM tblMain WHERE (((body like \"*Verse 66:22:2*\")) )"_s, dbOpenDynaset);
+    InQuery = On;
+    window().UpDateBibleText(true);
+    InQuery = Off;
+    EXPECT_EQ(window().Caption(), u"Lumenvia Professional King James [Revelation 22:2] "_s);
+    EXPECT_EQ(window().txtMain.Text().count(u"Verse"_s), 3); // 2, 20 and 21
+    EXPECT_EQ(position(), u"66:22:20"_s);
+}
+
+TEST_F(Page, aQueryWithASingleHitShowsIt) {
+    rsBible = dbBible.OpenRecordset(
+        u"SELECT * FROM tblMain WHERE (((body like \"*Verse 66:22:21*\")) )"_s, dbOpenDynaset);
+    InQuery = On;
+    window().UpDateBibleText(true);
+    InQuery = Off;
+    EXPECT_EQ(window().txtMain.Text().count(u"Verse"_s), 1);
+    EXPECT_EQ(position(), u"66:22:21"_s);
+}
+
 TEST_F(Page, showsTheNoteOfTheRowUnderTheRewoundCursor) {
     VersesPerPage = 24;
     rsBible.Seek(u"="_s, 40, 1, 1);

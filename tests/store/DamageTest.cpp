@@ -90,7 +90,7 @@ TEST_F(Damage, aFileCutOffAnywhereGivesAnErrorOnly) {
 
 TEST_F(Damage, changedBytesGiveErrorsOrValues) {
     std::mt19937 random(2);
-    for (int round = 0; round < 600; ++round) {
+    for (int round = 0; round < 300; ++round) {
         QByteArray damaged = content;
         for (int count = 1 << random() % 8; count > 0; --count)
             damaged[static_cast<qsizetype>(random() % static_cast<unsigned>(damaged.size()))] =
@@ -103,7 +103,7 @@ TEST_F(Damage, changedBytesGiveErrorsOrValues) {
 // The heads of the pages steer every walk: here a change does the most harm.
 TEST_F(Damage, changedPageHeadsGiveErrorsOrValues) {
     std::mt19937 random(3);
-    for (int round = 0; round < 600; ++round) {
+    for (int round = 0; round < 300; ++round) {
         QByteArray damaged = content;
         for (int count = 1 << random() % 5; count > 0; --count) {
             const auto pages = static_cast<unsigned>(damaged.size() / PageSize);

@@ -118,7 +118,11 @@ TEST_F(Select, followsARowWhoseNumberItChanges) {
     cursor.Fields(0) = 10;
     cursor.Update();
     EXPECT_EQ(rowOf(cursor), 10);
-    EXPECT_EQ(walk(cursor), (std::vector<qlonglong>{3, 4, 10}));
+    Recordset other = openDynaset();
+    other.AddNew();
+    other.Fields(0) = 1;
+    other.Update();
+    EXPECT_EQ(walk(cursor), (std::vector<qlonglong>{3, 4, 10})) << "the new row 1 is not in it";
 }
 
 TEST_F(Select, ofAnUnknownTableFieldOrDialectIsAnError) {

@@ -2,6 +2,8 @@
 
 #include "controls/Handler.h"
 
+#include <QMenu>
+#include <QPdfWriter>
 #include <QWidget>
 #include <gtest/gtest.h>
 
@@ -22,19 +24,23 @@ ScriptedDesktop::~ScriptedDesktop() {
 }
 
 void ScriptedDesktop::expectMessage(const Message& message, Answer answer) {
-    m_script.push_back({Event::Kind::Message, message, answer, {}, {}});
+    m_script.push_back({Event::Kind::Message, message, answer, {}, {}, {}});
 }
 
 void ScriptedDesktop::expectWindow(std::function<void(QWidget&)> user) {
-    m_script.push_back({Event::Kind::Window, {}, Answer::Ok, std::move(user), {}});
+    m_script.push_back({Event::Kind::Window, {}, Answer::Ok, std::move(user), {}, {}});
 }
 
 void ScriptedDesktop::expectLink(const QString& link) {
-    m_script.push_back({Event::Kind::Link, {}, Answer::Ok, {}, link});
+    m_script.push_back({Event::Kind::Link, {}, Answer::Ok, {}, link, {}});
+}
+
+void ScriptedDesktop::expectPrinter(const QString& file) {
+    m_script.push_back({Event::Kind::Printer, {}, Answer::Ok, {}, file, {}});
 }
 
 void ScriptedDesktop::expectEnd() {
-    m_script.push_back({Event::Kind::End, {}, Answer::Ok, {}, {}});
+    m_script.push_back({Event::Kind::End, {}, Answer::Ok, {}, {}, {}});
 }
 
 ScriptedDesktop::Event ScriptedDesktop::next(Event::Kind kind, const QString& description) {
@@ -69,8 +75,28 @@ void ScriptedDesktop::openLink(const QString& link) {
     EXPECT_EQ(link.toStdString(), next(Event::Kind::Link, u"link: "_s + link).link.toStdString());
 }
 
+void ScriptedDesktop::expectMenu(std::function<void(QMenu&)> user) {
+    m_script.push_back({Event::Kind::Menu, {}, Answer::Ok, {}, {}, std::move(user)});
+}
+
+void ScriptedDesktop::runMenu(QMenu& menu, const QPoint& /*place*/) {
+    const Event event = next(Event::Kind::Menu, u"menu: "_s + menu.objectName());
+    if (event.menuUser)
+        event.menuUser(menu);
+}
+
+void ScriptedDesktop::showHelp(const QString& helpFile, HelpCommand command, int context) {
+    const int topic = command == HelpCommand::Context ? context : 0;
+    shownHelp.append(helpFile + u' ' + QString::number(topic));
+}
+
 void ScriptedDesktop::closeHelp(const QString& helpFile) {
     closedHelpFiles.append(helpFile);
+}
+
+std::unique_ptr<QPagedPaintDevice> ScriptedDesktop::choosePrinter() {
+    const QString file = next(Event::Kind::Printer, u"the print dialog"_s).link;
+    return file.isEmpty() ? nullptr : std::make_unique<QPdfWriter>(file);
 }
 
 void ScriptedDesktop::endProgram() {

@@ -23,8 +23,14 @@ public:
     // closed.
     void expectWindow(std::function<void(QWidget&)> user);
 
+    // The next menu shall open; the action plays its user.
+    void expectMenu(std::function<void(QMenu&)> user);
+
     // The next link that leaves the program shall be this one.
     void expectLink(const QString& link);
+
+    // The print dialog shall open next. The user prints into a PDF file, or cancels if it has no name.
+    void expectPrinter(const QString& file);
 
     // The program shall end.
     void expectEnd();
@@ -32,21 +38,30 @@ public:
     Answer showMessage(const Message& message) override;
     void runModal(QWidget& window) override;
     void openLink(const QString& link) override;
+    void runMenu(QMenu& menu, const QPoint& place) override;
+    void showHelp(const QString& helpFile, HelpCommand command, int context) override;
     void closeHelp(const QString& helpFile) override;
+    void setClipboardText(const QString& text) override { clipboard = text; }
+    std::unique_ptr<QPagedPaintDevice> choosePrinter() override;
+    QDateTime now() override { return clock; }
     void beep() override { ++beeps; }
     [[noreturn]] void endProgram() override;
 
+    QDateTime clock{QDate(2003, 4, 5), QTime(6, 7, 8)};
     int beeps = 0;
+    QString clipboard;
     QStringList closedHelpFiles;
+    QStringList shownHelp; // "file 0" for the contents, "file topic" for a topic
 
 private:
     struct Event {
-        enum class Kind { Message, Window, Link, End };
+        enum class Kind { Message, Window, Menu, Link, Printer, End };
         Kind kind = Kind::Message;
         Message message;
         Answer answer = Answer::Ok;
         std::function<void(QWidget&)> user;
         QString link;
+        std::function<void(QMenu&)> menuUser;
     };
 
     // The next expected event if it is of this kind; otherwise the test fails and the answer is an

@@ -42,8 +42,8 @@ public:
 
     double value() const {
         const bool isExponentWhole = m_hasExponent && m_number.back().isDigit();
-        const QString number
-            = m_hasExponent && !isExponentWhole ? m_number.left(m_mantissaLength) : m_number;
+        const QString number =
+            m_hasExponent && !isExponentWhole ? m_number.left(m_mantissaLength) : m_number;
         bool converted = false;
         const double value = number.toDouble(&converted);
         return converted ? value : 0;

@@ -65,6 +65,9 @@ public:
     bool Enabled() const { return this->isEnabled(); }
     void setEnabled(bool enabled) { Base::setEnabled(enabled); }
     bool Visible() const { return !this->isHidden(); }
+    // Whether a key is down that was pressed here.
+    bool isKeyPressed() const { return !m_pressedKeys.isEmpty(); }
+
     QString ToolTipText() const { return this->toolTip(); }
     void SetFocus() { this->setFocus(Qt::OtherFocusReason); }
 
@@ -142,7 +145,7 @@ private:
 
     // The handler of KeyPress has put another character in the place of the typed one.
     void pressOther(const QKeyEvent& event, int character) {
-        const char32_t codePoint = static_cast<char32_t>(character);
+        const auto codePoint = static_cast<char32_t>(character);
         QKeyEvent other(event.type(), 0, Qt::NoModifier, QString::fromUcs4(&codePoint, 1));
         Base::keyPressEvent(&other);
     }

@@ -29,7 +29,7 @@ private:
 //     on(txtNote, &TextBox::KeyUp, this, &frmMain::txtNote_KeyUp);
 // The handler takes the event's arguments, or none.
 template <class Control, class Owner, class... Arguments, class Window, class Handler>
-    requires std::derived_from<Control, Owner>
+requires std::derived_from<Control, Owner>
 void on(Control& control, Event<Arguments...> Owner::*event, Window* window, Handler handler) {
     (control.*event).handleWith([window, handler](Arguments... arguments) {
         if constexpr (std::is_invocable_v<Handler, Window*, Arguments...>)

@@ -3,33 +3,48 @@
 #include "controls/CommandButton.h"
 #include "desktop/Desktop.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <algorithm>
 
 namespace {
 
 // Shows each key to the form that it is meant for, before the control with the focus gets it.
-class KeyPreviewFilter final : public QObject {
+class KeyFilter final : public QObject {
 public:
     using QObject::QObject;
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() != QEvent::KeyPress || !watched->isWidgetType())
+        const bool pressed = event->type() == QEvent::KeyPress;
+        if ((!pressed && event->type() != QEvent::ShortcutOverride) || !watched->isWidgetType())
             return false;
         auto* form = qobject_cast<Form*>(static_cast<QWidget*>(watched)->window());
-        if (!form || !form->KeyPreview())
+        if (!form)
             return false;
+        auto& key = static_cast<QKeyEvent&>(*event);
+        if (!pressed)
+            return refuseOverride(*form, key);
         // A key that nobody wants climbs to the form; only its first station counts.
         const QWidget* first = form->focusWidget() ? form->focusWidget() : form;
-        return watched == first && form->previewKey(static_cast<QKeyEvent&>(*event));
+        return form->KeyPreview() && watched == first && form->previewKey(key);
+    }
+
+private:
+    // A text box would take some of the window's shortcuts for itself.
+    static bool refuseOverride(const Form& form, QKeyEvent& key) {
+        if (!form.hasShortcut(QKeySequence(key.keyCombination())))
+            return false;
+        key.ignore();
+        return true;
     }
 };
 
-void installKeyPreview() {
-    static QPointer<KeyPreviewFilter> filter;
+void installKeyFilter() {
+    static QPointer<KeyFilter> filter;
     if (filter)
         return;
-    filter = new KeyPreviewFilter(qApp);
+    filter = new KeyFilter(qApp);
     qApp->installEventFilter(filter);
 }
 
@@ -39,7 +54,7 @@ Form::Form(const QString& name)
     : QWidget(nullptr, Qt::Window)
     , m_fontSize(font().pointSizeF()) {
     setObjectName(name);
-    installKeyPreview();
+    installKeyFilter();
 }
 
 void Form::setFontSize(double points) {
@@ -101,6 +116,13 @@ void Form::moveFocus(QWidget& widget, FocusListener& listener) {
     listener.raiseGotFocus();
 }
 
+bool Form::hasShortcut(const QKeySequence& keys) const {
+    const QList<QAction*> items = findChildren<QAction*>();
+    return std::ranges::any_of(items, [&](const QAction* item) {
+        return item->isEnabled() && !item->shortcut().isEmpty() && item->shortcut() == keys;
+    });
+}
+
 bool Form::previewKey(QKeyEvent& event) {
     int code = keyCodeOf(event);
     if (code == 0)
@@ -115,8 +137,14 @@ void Form::raiseGotFocus() {
 
 void Form::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow() && isLoaded())
-        runHandler([this] { Form_Activate(); });
+    if (event->type() != QEvent::ActivationChange || !isLoaded())
+        return;
+    runHandler([this] {
+        if (isActiveWindow())
+            Form_Activate();
+        else
+            windowLeft();
+    });
 }
 
 void Form::closeEvent(QCloseEvent* event) {

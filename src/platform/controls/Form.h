@@ -46,6 +46,9 @@ public:
     // Offers a key to Form_KeyDown; true if it was dropped there.
     bool previewKey(QKeyEvent& event);
 
+    // Whether an enabled item of its menus has this shortcut.
+    bool hasShortcut(const QKeySequence& keys) const;
+
     // For the keeper of the forms: called once when the form is unloaded.
     void whenUnloaded(std::function<void()> action) { m_whenUnloaded = std::move(action); }
 
@@ -53,6 +56,8 @@ protected:
     virtual void Form_Load() {}
     virtual void Form_Unload() {}
     virtual void Form_Activate() {}
+    // Another window has taken the keyboard.
+    virtual void windowLeft() {}
     virtual void Form_Resize() {}
     virtual void Form_Paint() {}
     virtual void Form_GotFocus() {}

@@ -1,16 +1,24 @@
 #include "controls/Menu.h"
 
 #include <QKeySequence>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
 MenuItem::MenuItem(QObject* parent, const QString& name, const QString& caption)
-    : QAction(caption, parent) {
+    : QAction(parent) {
     setObjectName(name);
+    setCaption(caption);
     connect(this, &QAction::triggered, this, [this] {
         setChecked(m_checked);
         Click.raise();
     });
+}
+
+void MenuItem::setCaption(const QString& caption) {
+    static const QRegularExpression blanks(u" {3,}"_s);
+    m_caption = caption;
+    setText(QString(caption).replace(blanks, u"\t"_s));
 }
 
 void MenuItem::setChecked(bool checked) {
@@ -19,10 +27,10 @@ void MenuItem::setChecked(bool checked) {
     QAction::setChecked(checked);
 }
 
-MenuArray::MenuArray(QWidget* window, QMenu* menu, const QString& name, const QList<MenuRow>& rows)
+MenuArray::MenuArray(QWidget* window, QMenu* menu, QString name, const QList<MenuRow>& rows)
     : m_window(window)
     , m_menu(menu)
-    , m_name(name) {
+    , m_name(std::move(name)) {
     for (const MenuRow& row : rows)
         addRow(row);
 }
@@ -41,7 +49,7 @@ void MenuArray::Unload(int index) {
 
 MenuItem& MenuArray::addRow(const MenuRow& row) {
     const QString name = m_name + u'(' + QString::number(row.index) + u')';
-    MenuItem& item = add(row.index, std::make_unique<MenuItem>(nullptr, name, row.caption));
+    MenuItem& item = add(row.index, std::make_unique<MenuItem>(m_window, name, row.caption));
     if (row.caption == u"-")
         item.setSeparator(true);
     if (!row.shortcut.isEmpty())

@@ -14,8 +14,9 @@ public:
 
     MenuItem(QObject* parent, const QString& name, const QString& caption);
 
-    QString Caption() const { return text(); }
-    void setCaption(const QString& caption) { setText(caption); }
+    // A shortcut that the caption names behind blanks stands in the menu's column of shortcuts.
+    QString Caption() const { return m_caption; }
+    void setCaption(const QString& caption);
     bool Checked() const { return isChecked(); }
 
     // An item gets its check mark from the program alone; a click does not turn it.
@@ -24,6 +25,7 @@ public:
     bool Visible() const { return isVisible(); }
 
 private:
+    QString m_caption;
     bool m_checked = false;
 };
 
@@ -40,7 +42,7 @@ class MenuArray : public ControlArray<MenuItem> {
 public:
     // Fills `menu` with the rows; items are named `name` and the index in brackets. Shortcuts of
     // hidden items belong to `window`.
-    MenuArray(QWidget* window, QMenu* menu, const QString& name, const QList<MenuRow>& rows);
+    MenuArray(QWidget* window, QMenu* menu, QString name, const QList<MenuRow>& rows);
 
     // Adds an invisible item at the menu's end, or takes an item away.
     // Error::SubscriptOutOfRange if the index is taken, or not there.

@@ -22,7 +22,8 @@ public:
     }
 
     // The size of the first pane along the split, and of both with the bar, in device-independent
-    // pixels. A position that the panes' least sizes do not allow moves to the nearest that they do.
+    // pixels. A position that the panes' least sizes do not allow moves to the nearest that they
+    // do.
     int Position() const;
     void setPosition(int position);
     int length() const;

@@ -3,13 +3,20 @@
 // in its place.
 #pragma once
 
+#include <QDateTime>
 #include <QString>
+#include <memory>
 
+class QMenu;
+class QPagedPaintDevice;
+class QPoint;
 class QWidget;
 
 enum class MessageIcon { None, Information, Question, Exclamation, Stop };
 enum class MessageButtons { Ok, YesNo };
 enum class Answer { Ok, Yes, No };
+
+enum class HelpCommand { Contents, Context };
 
 struct Message {
     QString text;
@@ -37,8 +44,25 @@ public:
     // Hands a web or mail link to the system. Failures are the system's to show.
     virtual void openLink(const QString& link) = 0;
 
+    // Opens a menu at a place of the screen and returns when it is closed. What the user chose runs
+    // inside this call.
+    virtual void runMenu(QMenu& menu, const QPoint& place) = 0;
+
+    // Opens the help viewer, at its contents or at a topic; the viewer itself tells the user about
+    // a file that is not there.
+    virtual void showHelp(const QString& helpFile, HelpCommand command, int context) = 0;
+
     // Closes the viewer that shows this help file, if there is one.
     virtual void closeHelp(const QString& helpFile) = 0;
+
+    // The text on the clipboard gives way to this one.
+    virtual void setClipboardText(const QString& text) = 0;
+
+    // Lets the user choose and set up a printer for what he has selected; null if he cancels. Printing
+    // starts with the first drawing on it and ends with its last owner.
+    virtual std::unique_ptr<QPagedPaintDevice> choosePrinter() = 0;
+
+    virtual QDateTime now() = 0;
 
     virtual void beep() = 0;
 

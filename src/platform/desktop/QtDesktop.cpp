@@ -1,9 +1,16 @@
 #include "desktop/QtDesktop.h"
 
+#include "desktop/HostPath.h"
+
 #include <QApplication>
+#include <QClipboard>
 #include <QDesktopServices>
 #include <QEventLoop>
+#include <QFileInfo>
+#include <QMenu>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QUrl>
 #include <QWidget>
 
@@ -81,9 +88,39 @@ void QtDesktop::openLink(const QString& link) {
     QDesktopServices::openUrl(QUrl(link));
 }
 
-void QtDesktop::closeHelp(const QString& helpFile) {
-    // The system's viewer is a program of its own and outlives this one.
-    Q_UNUSED(helpFile)
+void QtDesktop::runMenu(QMenu& menu, const QPoint& place) {
+    menu.exec(place);
+}
+
+// The system's viewer finds its own way to the topic.
+void QtDesktop::showHelp(const QString& helpFile, HelpCommand /*command*/, int /*context*/) {
+    const QFileInfo file(hostPath(helpFile));
+    if (file.isFile())
+        QDesktopServices::openUrl(QUrl::fromLocalFile(file.absoluteFilePath()));
+    else
+        showMessage(
+            {u"The help file is not there: "_s + helpFile, u"Help"_s, MessageIcon::Exclamation});
+}
+
+// The system's viewer is a program of its own and outlives this one.
+void QtDesktop::closeHelp(const QString& /*helpFile*/) {}
+
+void QtDesktop::setClipboardText(const QString& text) {
+    QApplication::clipboard()->setText(text);
+}
+
+std::unique_ptr<QPagedPaintDevice> QtDesktop::choosePrinter() {
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    QPrintDialog dialog(printer.get(), QApplication::activeWindow());
+    // The selection is all there is to print, so there are no pages to choose from.
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile);
+    if (dialog.exec() != QDialog::Accepted)
+        return nullptr;
+    return printer;
+}
+
+QDateTime QtDesktop::now() {
+    return QDateTime::currentDateTime();
 }
 
 void QtDesktop::beep() {

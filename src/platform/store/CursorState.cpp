@@ -124,7 +124,7 @@ RowFilter CursorState::beginFind(const QString& criteria) {
         throwNotSupported(u"A table cursor cannot search by criteria."_s);
     m_edit.end();
     m_noMatch = false;
-    return RowFilter(parseCriteria(criteria), source().table());
+    return {parseCriteria(criteria), source().table()};
 }
 
 void CursorState::findFirst(const QString& criteria) {

@@ -75,7 +75,7 @@ void checkHead(const Connection& connection) {
 qint64 expectedSize(const QByteArray& head) {
     if (numberAt(head, ChangeCounterOffset) != numberAt(head, PageCountValidForOffset))
         return 0;
-    const quint16 pageSize = qFromBigEndian<quint16>(head.constData() + PageSizeOffset);
+    const auto pageSize = qFromBigEndian<quint16>(head.constData() + PageSizeOffset);
     return qint64(numberAt(head, PageCountOffset)) * (pageSize == 1 ? 65536 : pageSize);
 }
 
@@ -113,7 +113,9 @@ void readSchema(const Connection& connection) {
 constexpr char DurableWrites[] = "PRAGMA synchronous = EXTRA; PRAGMA fullfsync = ON";
 constexpr char HastyWrites[] = "PRAGMA synchronous = OFF";
 constexpr char RollbackJournal[] = "PRAGMA journal_mode = DELETE";
-constexpr char Reading[] = "PRAGMA cell_size_check = ON; PRAGMA cache_size = -16384";
+
+// Room for 64 MB of pages, so that also a large work is read from the disk once.
+constexpr char Reading[] = "PRAGMA cell_size_check = ON; PRAGMA cache_size = -65536";
 
 bool folderIsWritable(const QString& path) {
     return QFileInfo(QFileInfo(path).absolutePath()).isWritable();

@@ -33,7 +33,8 @@ Field& Field::operator=(const QVariant& value) {
 }
 
 Field& Field::operator=(const Field& other) {
-    setValue(other.Value());
+    if (this != &other)
+        setValue(other.Value());
     return *this;
 }
 
@@ -99,11 +100,11 @@ void Recordset::FindPrevious(const QString& criteria) {
 }
 
 Field Recordset::Fields(int ordinal) {
-    return Field(m_state, cursorOf(m_state).ordinal(ordinal));
+    return {m_state, cursorOf(m_state).ordinal(ordinal)};
 }
 
 Field Recordset::Fields(const QString& name) {
-    return Field(m_state, cursorOf(m_state).ordinal(name));
+    return {m_state, cursorOf(m_state).ordinal(name)};
 }
 
 void Recordset::Edit() {

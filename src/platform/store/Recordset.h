@@ -73,7 +73,8 @@ public:
     // Whether the last Seek or Find failed; false on a new cursor.
     bool NoMatch() const;
 
-    // Stand on the first or the last row. Error::NoCurrentRecord on an empty cursor.
+    // Stand on the first or the last row. On an empty cursor there is no current row from then on,
+    // and that is an Error::NoCurrentRecord.
     void MoveFirst();
     void MoveLast();
 

@@ -25,7 +25,7 @@ public:
     std::vector<Row>& rows() { return m_rows; }
 
 private:
-    static constexpr size_t ByteLimit = 256 * 1024;
+    static constexpr size_t ByteLimit = size_t(256) * 1024;
 
     std::vector<Row> m_rows;
     size_t m_rowLimit;

@@ -13,7 +13,7 @@ namespace {
 constexpr size_t FirstReadAhead = 16;
 constexpr size_t LargestReadAhead = 256;
 constexpr size_t LargestWindow = 512;
-constexpr size_t LargestWindowBytes = 1024 * 1024;
+constexpr size_t LargestWindowBytes = size_t(1024) * 1024;
 
 [[noreturn]] void throwNoCurrentRecord() {
     throw Error(Error::NoCurrentRecord, u"There is no current row."_s);

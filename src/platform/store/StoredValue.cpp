@@ -62,13 +62,19 @@ std::weak_ordering compareNumbers(qint64 left, double right) {
         return std::weak_ordering::less;
     if (right < -WholeNumbersEnd)
         return std::weak_ordering::greater;
-    const qint64 whole = static_cast<qint64>(right);
+    const auto whole = static_cast<qint64>(right);
     if (left != whole)
         return left <=> whole;
     const double rest = right - static_cast<double>(whole);
     return rest > 0   ? std::weak_ordering::less
            : rest < 0 ? std::weak_ordering::greater
                       : std::weak_ordering::equivalent;
+}
+
+std::weak_ordering reversed(std::weak_ordering order) {
+    return std::is_lt(order)   ? std::weak_ordering::greater
+           : std::is_gt(order) ? std::weak_ordering::less
+                               : order;
 }
 
 std::weak_ordering compareReals(double left, double right) {
@@ -85,7 +91,7 @@ std::weak_ordering compareNumbers(const StoredValue& left, const StoredValue& ri
     if (leftWhole)
         return compareNumbers(*leftWhole, std::get<double>(right));
     if (rightWhole)
-        return 0 <=> compareNumbers(*rightWhole, std::get<double>(left));
+        return reversed(compareNumbers(*rightWhole, std::get<double>(left)));
     return compareReals(std::get<double>(left), std::get<double>(right));
 }
 

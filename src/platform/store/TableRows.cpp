@@ -128,12 +128,12 @@ void TableRows::readStretch(
 // In a damaged file an index may lead back to where it came from: a walk must end nevertheless.
 void TableRows::checkOrder(const Row& earlier, const Row& later, Direction direction) const {
     std::weak_ordering order = std::weak_ordering::equivalent;
-    for (size_t place = 0; place < keySize() && order == 0; ++place) {
+    for (size_t place = 0; place < keySize() && std::is_eq(order); ++place) {
         const auto column = static_cast<size_t>(m_index->columns[place]);
         order = compareStored(earlier.values[column], later.values[column]);
     }
-    if (order == 0)
+    if (std::is_eq(order))
         order = earlier.number <=> later.number;
-    if (direction == Direction::Forward ? order >= 0 : order <= 0)
+    if (direction == Direction::Forward ? std::is_gteq(order) : std::is_lteq(order))
         connection()->failAsDamaged();
 }

@@ -36,7 +36,7 @@ private:
     struct Probe {
         unsigned char byte = 0;
         unsigned char caseBit = 0;
-        bool fits(unsigned char other) const { return (other | caseBit) == byte; }
+        int fits(unsigned char other) const { return (other | caseBit) == byte; }
     };
     enum class Fit { Yes, No, Unclear };
 
