@@ -2,6 +2,7 @@
 
 #include "store/DataFile.h"
 
+#include <QProcess>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <map>
@@ -11,105 +12,88 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int BodyLength = 130;
-constexpr int VersesInChapter = 26;
 constexpr int Books = 66;
+constexpr size_t ScatteredKeys = 1000;
 
-// How often a word has so many letters, and a letter stands in a word, in English running text.
-const std::vector<double> WordLengths = {0, 3, 16, 25, 22, 12, 8, 6, 4, 2, 1, 1};
-const std::vector<double> LetterFrequencies = {8.2,  1.5,  2.8, 4.3,  12.7, 2.2,  2.0, 6.1, 7.0,
-                                               0.15, 0.77, 4.0, 2.4,  6.7,  7.5,  1.9, 0.1, 6.0,
-                                               6.3,  9.1,  2.8, 0.98, 2.4,  0.15, 2.0, 0.07};
+void makeBible(const QString& folder) {
+    if (QProcess::execute(QStringLiteral(LUMENVIA_MAKER), {u"make"_s, u"kjv"_s, u"--to"_s, folder})
+        != 0)
+        qFatal("The King James Bible cannot be made.");
+}
 
-class TextMaker {
-public:
-    QString verse() {
-        QString text;
-        while (text.size() < BodyLength)
-            text += word() + (m_random() % 9 == 0 ? u", "_s : u" "_s);
-        text[0] = text[0].toUpper();
-        return text + u'.';
-    }
-
-private:
-    QString word() {
-        QString made;
-        for (int length = m_lengths(m_random); length > 0; --length)
-            made += QChar(u'a' + m_letters(m_random));
-        return made;
-    }
-
-    std::mt19937 m_random{4711};
-    std::discrete_distribution<int> m_lengths{WordLengths.begin(), WordLengths.end()};
-    std::discrete_distribution<int> m_letters{LetterFrequencies.begin(), LetterFrequencies.end()};
-};
-
-void makeTable(const QString& path, int rows) {
+// The same verses again and again, under book numbers that go on.
+void makeManyBibles(const QString& path, int bibles) {
     DataFileWriter writer(path);
     createTranslationSchema(writer);
-    TextMaker text;
-    const int rowsInBook = rows / Books + 1;
-    for (int row = 0; row < rows; ++row) {
-        const int inBook = row % rowsInBook;
-        writer.insert(
-            u"tblMain"_s, {QVariant(), row / rowsInBook + 1, inBook / VersesInChapter + 1,
-                           inBook % VersesInChapter + 1, text.verse(), QVariant()});
+    Recordset bible = openDynaset(1);
+    for (int copy = 0; copy < bibles; ++copy) {
+        for (bible.MoveFirst(); !bible.Eof(); bible.MoveNext())
+            writer.insert(
+                u"tblMain"_s, {QVariant(), bible.Fields(1).Value().toInt() + copy * Books,
+                               bible.Fields(2).Value(), bible.Fields(3).Value(),
+                               bible.Fields(4).Value(), bible.Fields(5).Value()});
     }
     writer.finish();
 }
 
-Recordset open(int rows, RecordsetType type) {
+Recordset open(int bibles, RecordsetType type) {
     Workspace workspace = DBEngine::CreateWorkspace(u"Bible"_s, u"Admin"_s, {});
-    return workspace.OpenDatabase(benchFile(rows)).OpenRecordset(u"tblMain"_s, type);
+    return workspace.OpenDatabase(benchFile(bibles)).OpenRecordset(u"tblMain"_s, type);
 }
 
 } // namespace
 
-QString benchFile(int rows) {
+QString benchFile(int bibles) {
     static const QTemporaryDir folder;
     static std::map<int, QString> files;
-    QString& file = files[rows];
-    if (file.isEmpty() && rows == BibleRows)
-        file = qEnvironmentVariable("LUMENVIA_BENCH_KJV");
+    QString& file = files[bibles];
     if (file.isEmpty()) {
-        file = folder.filePath(u"bench%1.mdb"_s.arg(rows));
-        makeTable(file, rows);
+        file = folder.filePath(bibles == 1 ? u"KJV.mdb"_s : u"many.mdb"_s);
+        bibles == 1 ? makeBible(folder.path()) : makeManyBibles(file, bibles);
     }
     return file;
 }
 
-Recordset openByVerse(int rows) {
-    Recordset cursor = open(rows, dbOpenTable);
+Recordset openByVerse(int bibles) {
+    Recordset cursor = open(bibles, dbOpenTable);
     cursor.Index(u"VerseIndex"_s);
     return cursor;
 }
 
-Recordset openDynaset(int rows) {
-    return open(rows, dbOpenDynaset);
+Recordset openDynaset(int bibles) {
+    return open(bibles, dbOpenDynaset);
 }
 
-const std::string& allTexts(int rows) {
+const std::string& allTexts(int bibles) {
     static std::map<int, std::string> texts;
-    std::string& text = texts[rows];
+    std::string& text = texts[bibles];
     if (text.empty()) {
-        Recordset cursor = openDynaset(rows);
+        Recordset cursor = openDynaset(bibles);
         for (cursor.MoveFirst(); !cursor.Eof(); cursor.MoveNext())
             text += cursor.Fields(4).Value().toString().toStdString();
     }
     return text;
 }
 
-const std::vector<VerseKey>& scatteredKeys(int rows) {
+const std::vector<VerseKey>& scatteredKeys(int bibles) {
     static std::map<int, std::vector<VerseKey>> keys;
-    std::vector<VerseKey>& chosen = keys[rows];
+    std::vector<VerseKey>& chosen = keys[bibles];
     if (chosen.empty()) {
-        Recordset cursor = openByVerse(rows);
+        Recordset cursor = openByVerse(bibles);
         for (cursor.MoveFirst(); !cursor.Eof(); cursor.MoveNext())
             chosen.push_back(
                 {cursor.Fields(1).Value().toInt(), cursor.Fields(2).Value().toInt(),
                  cursor.Fields(3).Value().toInt()});
         std::shuffle(chosen.begin(), chosen.end(), std::mt19937(1));
-        chosen.resize(1000);
+        chosen.resize(ScatteredKeys);
     }
     return chosen;
+}
+
+void withBothTables(benchmark::internal::Benchmark* benchmark) {
+    benchmark->ArgName("bibles")->Arg(1)->Arg(10)->Repetitions(15)->ReportAggregatesOnly();
+}
+
+int biblesOf(const benchmark::State& state) {
+    return static_cast<int>(state.range(0));
 }

@@ -1,26 +1,22 @@
-// The tables that the measurements run on: a translation of the usual size, and one ten times as
-// large, of random words with the lengths and letters of English. Made once per run.
-//
-// LUMENVIA_BENCH_KJV may name a translation; it then takes the place of the smaller table.
+// The tables that the measurements run on: the King James Bible as a user gets it, and one that
+// holds it ten times. Made once per run.
 #pragma once
 
 #include "store/Workspace.h"
 
+#include <benchmark/benchmark.h>
 #include <string>
 #include <vector>
 
-inline constexpr int BibleRows = 31102;
-inline constexpr int LargeRows = 10 * BibleRows;
-
-// The file with a table of so many rows.
-QString benchFile(int rows);
+// The file that holds so many Bibles, 1 or 10.
+QString benchFile(int bibles);
 
 // An open cursor on it, by verse order or by row order.
-Recordset openByVerse(int rows);
-Recordset openDynaset(int rows);
+Recordset openByVerse(int bibles);
+Recordset openDynaset(int bibles);
 
 // Every verse text of the table in row order, one behind the other.
-const std::string& allTexts(int rows);
+const std::string& allTexts(int bibles);
 
 // The keys of rows here and there in the table.
 struct VerseKey {
@@ -28,4 +24,8 @@ struct VerseKey {
     int chapter;
     int verse;
 };
-const std::vector<VerseKey>& scatteredKeys(int rows);
+const std::vector<VerseKey>& scatteredKeys(int bibles);
+
+// Measures with both tables; what counts is the median of many short runs.
+void withBothTables(benchmark::internal::Benchmark* benchmark);
+int biblesOf(const benchmark::State& state);

@@ -1,19 +1,15 @@
 // Opening, seeking and stepping: each with both table sizes, since the cost must not depend on it.
 #include "BenchTables.h"
 
-#include <benchmark/benchmark.h>
+#include <chrono>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-int rowsOf(const benchmark::State& state) {
-    return static_cast<int>(state.range(0));
-}
-
 void Seek_scatteredVerses(benchmark::State& state) {
-    Recordset cursor = openByVerse(rowsOf(state));
-    const std::vector<VerseKey>& keys = scatteredKeys(rowsOf(state));
+    Recordset cursor = openByVerse(biblesOf(state));
+    const std::vector<VerseKey>& keys = scatteredKeys(biblesOf(state));
     size_t next = 0;
     for (auto _ : state) {
         const VerseKey& key = keys[next++ % keys.size()];
@@ -22,7 +18,7 @@ void Seek_scatteredVerses(benchmark::State& state) {
 }
 
 void MoveNext_throughTheTable(benchmark::State& state) {
-    Recordset cursor = openByVerse(rowsOf(state));
+    Recordset cursor = openByVerse(biblesOf(state));
     for (auto _ : state) {
         cursor.MoveNext();
         if (cursor.Eof())
@@ -31,7 +27,7 @@ void MoveNext_throughTheTable(benchmark::State& state) {
 }
 
 void MovePrevious_throughTheTable(benchmark::State& state) {
-    Recordset cursor = openByVerse(rowsOf(state));
+    Recordset cursor = openByVerse(biblesOf(state));
     cursor.MoveLast();
     for (auto _ : state) {
         cursor.MovePrevious();
@@ -40,10 +36,25 @@ void MovePrevious_throughTheTable(benchmark::State& state) {
     }
 }
 
+// The first step away from a row, when nothing was read ahead yet.
+void stepAfterSeek(benchmark::State& state, void (Recordset::*step)()) {
+    using Clock = std::chrono::steady_clock;
+    Recordset cursor = openByVerse(biblesOf(state));
+    const std::vector<VerseKey>& keys = scatteredKeys(biblesOf(state));
+    size_t next = 0;
+    for (auto _ : state) {
+        const VerseKey& key = keys[next++ % keys.size()];
+        cursor.Seek(u"="_s, key.book, key.chapter, key.verse);
+        const Clock::time_point start = Clock::now();
+        (cursor.*step)();
+        state.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
+    }
+}
+
 // What a page is built of: a jump, then twenty rows with their fields read.
 void SeekAndReadAPageOf20Rows(benchmark::State& state) {
-    Recordset cursor = openByVerse(rowsOf(state));
-    const std::vector<VerseKey>& keys = scatteredKeys(rowsOf(state));
+    Recordset cursor = openByVerse(biblesOf(state));
+    const std::vector<VerseKey>& keys = scatteredKeys(biblesOf(state));
     size_t next = 0;
     for (auto _ : state) {
         const VerseKey& key = keys[next++ % keys.size()];
@@ -58,7 +69,7 @@ void SeekAndReadAPageOf20Rows(benchmark::State& state) {
 
 void OpenRecordset_byVerse(benchmark::State& state) {
     Workspace workspace = DBEngine::CreateWorkspace(u"Bible"_s, u"Admin"_s, {});
-    Database database = workspace.OpenDatabase(benchFile(rowsOf(state)));
+    Database database = workspace.OpenDatabase(benchFile(biblesOf(state)));
     for (auto _ : state) {
         Recordset cursor = database.OpenRecordset(u"tblMain"_s, dbOpenTable);
         cursor.Index(u"VerseIndex"_s);
@@ -68,7 +79,7 @@ void OpenRecordset_byVerse(benchmark::State& state) {
 
 void OpenRecordset_dynaset(benchmark::State& state) {
     Workspace workspace = DBEngine::CreateWorkspace(u"Bible"_s, u"Admin"_s, {});
-    Database database = workspace.OpenDatabase(benchFile(rowsOf(state)));
+    Database database = workspace.OpenDatabase(benchFile(biblesOf(state)));
     for (auto _ : state)
         benchmark::DoNotOptimize(database.OpenRecordset(u"tblMain"_s, dbOpenDynaset));
 }
@@ -76,19 +87,21 @@ void OpenRecordset_dynaset(benchmark::State& state) {
 void OpenDatabase_andClose(benchmark::State& state) {
     Workspace workspace = DBEngine::CreateWorkspace(u"Bible"_s, u"Admin"_s, {});
     for (auto _ : state)
-        workspace.OpenDatabase(benchFile(rowsOf(state))).Close();
-}
-
-void bothSizes(benchmark::internal::Benchmark* benchmark) {
-    benchmark->ArgName("rows")->Arg(BibleRows)->Arg(LargeRows);
+        workspace.OpenDatabase(benchFile(biblesOf(state))).Close();
 }
 
 } // namespace
 
-BENCHMARK(Seek_scatteredVerses)->Apply(bothSizes);
-BENCHMARK(MoveNext_throughTheTable)->Apply(bothSizes);
-BENCHMARK(MovePrevious_throughTheTable)->Apply(bothSizes);
-BENCHMARK(SeekAndReadAPageOf20Rows)->Apply(bothSizes);
-BENCHMARK(OpenRecordset_byVerse)->Apply(bothSizes);
-BENCHMARK(OpenRecordset_dynaset)->Apply(bothSizes);
-BENCHMARK(OpenDatabase_andClose)->Apply(bothSizes);
+BENCHMARK(Seek_scatteredVerses)->Apply(withBothTables);
+BENCHMARK(MoveNext_throughTheTable)->Apply(withBothTables);
+BENCHMARK(MovePrevious_throughTheTable)->Apply(withBothTables);
+BENCHMARK_CAPTURE(stepAfterSeek, MoveNext, &Recordset::MoveNext)
+    ->Apply(withBothTables)
+    ->UseManualTime();
+BENCHMARK_CAPTURE(stepAfterSeek, MovePrevious, &Recordset::MovePrevious)
+    ->Apply(withBothTables)
+    ->UseManualTime();
+BENCHMARK(SeekAndReadAPageOf20Rows)->Apply(withBothTables);
+BENCHMARK(OpenRecordset_byVerse)->Apply(withBothTables);
+BENCHMARK(OpenRecordset_dynaset)->Apply(withBothTables);
+BENCHMARK(OpenDatabase_andClose)->Apply(withBothTables);

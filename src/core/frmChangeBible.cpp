@@ -85,6 +85,7 @@ void frmChangeBible::layOutInformation() {
 }
 
 void frmChangeBible::growToInformation() {
+    famDesscribe.updateGeometry(); // tells its new needs at once
     const QSize room = screen()->availableSize();
     resize(size().expandedTo(sizeHint()).boundedTo(room.expandedTo(minimumSizeHint())));
 }
@@ -97,6 +98,7 @@ void frmChangeBible::SetupScreen() {
     for (int row = 0; row < CatalogueSize; ++row)
         OptBible(row).setCaption(BibleLongName[static_cast<size_t>(row)]);
     OptBible(CurrentBible).setValue(true);
+    OptBible(CurrentBible).SetFocus();
 }
 
 void frmChangeBible::OptBible_Click(int Index) {

@@ -4,6 +4,8 @@
 #include "core/GlobalCode.h"
 #include "reader/frmMain.h"
 #include "store/DataFile.h"
+#include "store/StoreTuning.h"
+#include "support/OtherProgram.h"
 #include "support/ProgramFixture.h"
 
 #include <QFile>
@@ -131,4 +133,13 @@ TEST_F(DamagedTranslation, aBookOutsideTheBibleIsShownWithoutAName) {
     startProgram();
     EXPECT_EQ(form<frmMain>().Caption(), u"Lumenvia Professional King James [ 1:1] "_s);
     EXPECT_TRUE(form<frmMain>().txtMain.Text().contains(u"zero"_s));
+}
+
+TEST_F(DamagedTranslation, aFileThatAnotherProgramHoldsIsALoadError) {
+    addTranslation(u"KJV.mdb"_s, sampleVerses());
+    storeTuning().busyTimeout = std::chrono::milliseconds(20);
+    OtherProgram holder(QStringLiteral(LUMENVIA_STORE_HELPER), {u"lock"_s, kjv()});
+    ASSERT_EQ(holder.readLine(), u"locked"_s);
+    expectMessage(loadError, u"Lumenvia"_s, MessageIcon::Stop);
+    storeTuning() = {};
 }

@@ -48,7 +48,7 @@ TEST_F(Executable, saysThatAPictureCannotBeWritten) {
     EXPECT_EQ(run(), 1);
 }
 
-TEST_F(Executable, leavesItsSettingsWithThePrescribedKeys) {
+TEST_F(Executable, leavesItsSettingsUnderTheirKeys) {
     m_environment.insert(u"LUMENVIA_MEASURE"_s, u"1"_s);
     EXPECT_EQ(run(), 0);
     QFile settings(m_home.filePath(u"config/lumenvia/Lumenvia Professional.ini"_s));

@@ -2,6 +2,8 @@
 #include "core/Settings.h"
 #include "reader/frmMain.h"
 #include "settings/SettingsStore.h"
+#include "store/StoreTuning.h"
+#include "support/OtherProgram.h"
 #include "support/ProgramFixture.h"
 
 #include <QApplication>
@@ -201,6 +203,34 @@ TEST_F(Notes, ofAFileThatIsGoneAreRescued) {
     type(u"b"_s);
     show(40, 2, 1);
     EXPECT_TRUE(rescued().contains(u"Matthew 1:1\nab \n"_s)) << rescued().toStdString();
+}
+
+TEST_F(Notes, ofAFileThatIsReplacedAreRescued) {
+    type(u"a"_s);
+    addTranslation(u"KJV.mdb"_s, sampleVerses());
+    type(u"b"_s);
+    show(40, 2, 1);
+    EXPECT_TRUE(rescued().contains(u"Matthew 1:1\nab \n"_s)) << rescued().toStdString();
+}
+
+class LockedNotes : public Notes {
+protected:
+    LockedNotes() { storeTuning().busyTimeout = std::chrono::milliseconds(20); }
+    ~LockedNotes() override { storeTuning() = {}; }
+};
+
+TEST_F(LockedNotes, areWrittenWithTheNextKeyThatCan) {
+    {
+        OtherProgram holder(
+            QStringLiteral(LUMENVIA_STORE_HELPER), {u"lock"_s, programFile(u"KJV.mdb"_s)});
+        ASSERT_EQ(holder.readLine(), u"locked"_s);
+        type(u"ab"_s);
+        EXPECT_EQ(note().Text(), u"ab "_s);
+    }
+    EXPECT_TRUE(stored().isNull());
+    type(u"c"_s);
+    EXPECT_EQ(stored(), u"abc "_s);
+    EXPECT_TRUE(rescued().isEmpty());
 }
 
 TEST_F(Notes, showTheirVerseAboveThem) {
