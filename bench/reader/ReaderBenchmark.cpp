@@ -18,11 +18,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool makeBible(const QString& folder, const QStringList& more = {}) {
-    return QProcess::execute(
-               QStringLiteral(LUMENVIA_MAKER),
-               QStringList{u"make"_s, u"kjv"_s, u"--to"_s, folder} + more)
-           == 0;
+// Calls the maker of data files; `what` are its works and options.
+bool makeBibles(const QString& folder, const QStringList& what) {
+    const QStringList arguments = QStringList{u"make"_s, u"--to"_s, folder} + what;
+    return QProcess::execute(QStringLiteral(LUMENVIA_MAKER), arguments) == 0;
 }
 
 void seekPsalm() {
@@ -73,7 +72,7 @@ void showChapter(benchmark::State& state) {
 void makeKjv(benchmark::State& state) {
     const QTemporaryDir folder;
     for (auto _ : state) {
-        if (!makeBible(folder.path(), {u"--force"_s}))
+        if (!makeBibles(folder.path(), {u"kjv"_s, u"--force"_s}))
             state.SkipWithError("the King James Bible cannot be made");
     }
 }
@@ -97,7 +96,7 @@ int main(int argc, char** argv) {
     const QTemporaryDir home;
     qputenv("LUMENVIA_HOME", home.path().toLocal8Bit());
     setSettingsFolder(home.path());
-    if (!makeBible(home.path()))
+    if (!makeBibles(home.path(), {u"kjv"_s, u"spanish"_s}))
         return 1;
     QtDesktop realDesktop;
     setDesktop(&realDesktop);

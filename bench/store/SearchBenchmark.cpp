@@ -13,6 +13,8 @@ namespace {
 // Words that the tables do not hold: one with rare letters, one of common letters alone.
 const QString RareWord = u"Melchizedek quav"_s;
 const QString CommonWord = u"ethis arento the"_s;
+const QString GreekWord = u"Λόγος"_s;
+const QString OneLetter = u"ñ"_s;
 
 constexpr int VersesOfABible = 31102;
 
@@ -104,6 +106,8 @@ BENCHMARK_CAPTURE(yardstick, plainScanInMemory_rareLetters, RareWord)->Apply(sea
 BENCHMARK_CAPTURE(findWithoutHit, rareLetters, RareWord)->Apply(searching);
 BENCHMARK_CAPTURE(yardstick, plainScanInMemory_commonLetters, CommonWord)->Apply(searching);
 BENCHMARK_CAPTURE(findWithoutHit, commonLetters, CommonWord)->Apply(searching);
+BENCHMARK_CAPTURE(findWithoutHit, greekLetters, GreekWord)->Apply(searching);
+BENCHMARK_CAPTURE(findWithoutHit, oneLetter, OneLetter)->Apply(searching);
 BENCHMARK(openAndFindWithoutHit)->Apply(searching);
 BENCHMARK(Select_oneWordOutOfMany)->Apply(searching);
 BENCHMARK(FindFirst_byNumber)->Apply(withBothTables);

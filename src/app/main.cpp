@@ -1,17 +1,18 @@
 // Starts the toolkit and the desktop, sets up the program's folder, and hands over to Main.
 #include "app/FirstPage.h"
 #include "app/ProgramFolder.h"
+#include "app/UnattendedDesktop.h"
 
 #include "Configuration.h"
 #include "controls/Handler.h"
 #include "core/NewSetup.h"
 #include "core/Settings.h"
-#include "desktop/QtDesktop.h"
 #include "reader/frmMain.h"
 #include "settings/SettingsStore.h"
 
 #include <QApplication>
 #include <QIcon>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -33,8 +34,9 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(u"lumenvia"_s);
     QApplication::setDesktopFileName(u"lumenvia"_s);
     QApplication::setWindowIcon(QIcon(u":/icons/lumenvia.svg"_s));
-    QtDesktop realDesktop;
-    setDesktop(&realDesktop);
+    const std::unique_ptr<QtDesktop> realDesktop =
+        endsWithFirstPage() ? std::make_unique<UnattendedDesktop>() : std::make_unique<QtDesktop>();
+    setDesktop(realDesktop.get());
     const int code = run(application);
     forms::discardAll();
     flushSettings();

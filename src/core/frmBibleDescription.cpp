@@ -5,14 +5,9 @@
 #include "prefs/Internet.h"
 #include "reader/frmMain.h"
 
-#include <QVBoxLayout>
-
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int Margin = 12;
-constexpr int Spacing = 8;
 
 // What is comfortable to read.
 constexpr int CharactersInLine = 90;
@@ -25,9 +20,8 @@ frmBibleDescription::frmBibleDescription()
     setCaption(u"Bible Descriptions"_s);
     txtHistory.setReadOnly(true);
     txtHistory.setText(bibleDescriptions());
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(Margin, Margin, Margin, Margin);
-    column->setSpacing(Spacing);
+    txtHistory.document()->setDocumentMargin(WindowSpacing);
+    auto* column = makeWindowColumn(*this);
     column->addWidget(&txtHistory, 1);
     auto* buttons = new ButtonRow(&cmdOk, nullptr);
     buttons->addOther(cmdEmail);

@@ -10,14 +10,11 @@
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QScreen>
-#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int Margin = 12;
-constexpr int Spacing = 8;
 constexpr int CharactersInLine = 60;
 constexpr int BiblesInColumn = CatalogueSize / 2;
 
@@ -35,8 +32,6 @@ QString nameOf(const QString& array, int index) {
 frmChangeBible::frmChangeBible()
     : Form(u"frmChangeBible"_s) {
     setCaption(u"Change Current Bible"_s);
-    layOutBibles();
-    layOutInformation();
     layOut();
     setDefaultButton(*this, cmdOK);
     on(OptBible, &OptionButton::Click, this, &frmChangeBible::OptBible_Click);
@@ -45,43 +40,41 @@ frmChangeBible::frmChangeBible()
     on(cmdCancel, &CommandButton::Click, this, &frmChangeBible::cmdCancel_Click);
 }
 
+ControlArray<OptionButton> frmChangeBible::makeBibles() {
+    ControlArray<OptionButton> bibles;
+    auto* grid = new QGridLayout(&fambibles);
+    for (int row = 0; row < CatalogueSize; ++row) {
+        const QString name = nameOf(u"OptBible"_s, row);
+        OptionButton& button =
+            bibles.add(row, std::make_unique<OptionButton>(&fambibles, ControlText{name}));
+        grid->addWidget(&button, row % BiblesInColumn, row / BiblesInColumn);
+    }
+    return bibles;
+}
+
+ControlArray<Label> frmChangeBible::makeInformation() {
+    ControlArray<Label> labels;
+    auto* rows = new QFormLayout(&famDesscribe);
+    for (int row = 0; row < static_cast<int>(informationHeadings.size()); ++row) {
+        const QString name = nameOf(u"lblbibleinfo"_s, row);
+        Label& label = labels.add(row, std::make_unique<Label>(&famDesscribe, ControlText{name}));
+        label.setTextInteractionFlags(Qt::TextSelectableByMouse);
+        // Not the text's own width: a path may be longer than the screen is wide.
+        label.setMinimumWidth(fontMetrics().averageCharWidth() * CharactersInLine);
+        rows->addRow(informationHeadings[static_cast<size_t>(row)], &label);
+    }
+    return labels;
+}
+
 void frmChangeBible::layOut() {
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(Margin, Margin, Margin, Margin);
-    column->setSpacing(Spacing);
+    auto* column = makeWindowColumn(*this);
     column->addWidget(&fambibles);
     column->addWidget(&famDesscribe);
     column->addStretch();
     auto* buttons = new ButtonRow(&cmdOK, &cmdCancel);
     buttons->addOther(cmdHelp);
     column->addWidget(buttons);
-    setTabOrder(&OptBible(CatalogueSize - 1), &cmdOK);
-    setTabOrder(&cmdOK, &cmdHelp);
-    setTabOrder(&cmdHelp, &cmdCancel);
     adjustSize();
-}
-
-void frmChangeBible::layOutBibles() {
-    auto* grid = new QGridLayout(&fambibles);
-    for (int row = 0; row < CatalogueSize; ++row) {
-        const QString name = nameOf(u"OptBible"_s, row);
-        OptionButton& button =
-            OptBible.add(row, std::make_unique<OptionButton>(&fambibles, ControlText{name}));
-        grid->addWidget(&button, row % BiblesInColumn, row / BiblesInColumn);
-    }
-}
-
-void frmChangeBible::layOutInformation() {
-    auto* rows = new QFormLayout(&famDesscribe);
-    for (int row = 0; row < static_cast<int>(informationHeadings.size()); ++row) {
-        const QString name = nameOf(u"lblbibleinfo"_s, row);
-        Label& label =
-            lblbibleinfo.add(row, std::make_unique<Label>(&famDesscribe, ControlText{name}));
-        label.setTextInteractionFlags(Qt::TextSelectableByMouse);
-        // Not the text's own width: a path may be longer than the screen is wide.
-        label.setMinimumWidth(fontMetrics().averageCharWidth() * CharactersInLine);
-        rows->addRow(informationHeadings[static_cast<size_t>(row)], &label);
-    }
 }
 
 void frmChangeBible::growToInformation() {

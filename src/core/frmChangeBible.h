@@ -16,9 +16,10 @@ public:
     frmChangeBible();
 
     Frame fambibles{this, {u"fambibles", u"Bibles to choose from"}};
-    ControlArray<OptionButton> OptBible;
+    ControlArray<OptionButton> OptBible = makeBibles();
     Frame famDesscribe{this, {u"famDesscribe", u"Bible Information"}};
-    ControlArray<Label> lblbibleinfo; // description, file name, whether installed, web page
+    // Description, file name, whether installed, web page.
+    ControlArray<Label> lblbibleinfo = makeInformation();
     CommandButton cmdOK{this, {u"cmdOK", u"OK", u"Change to selected Bible"}};
     CommandButton cmdHelp{this, {u"cmdHelp", u"&Add Bible", u"How to add a Bible"}};
     CommandButton cmdCancel{this, {u"cmdCancel", u"&Cancel", u"Close without changing"}};
@@ -36,9 +37,9 @@ protected:
     CommandButton* closingButton() override { return &cmdCancel; }
 
 private:
+    ControlArray<OptionButton> makeBibles();
+    ControlArray<Label> makeInformation();
     void layOut();
-    void layOutBibles();
-    void layOutInformation();
     void growToInformation();
 
     int m_row = 0;

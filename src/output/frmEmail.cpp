@@ -8,7 +8,6 @@
 #include "settings/SettingsStore.h"
 
 #include <QCoreApplication>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <array>
 
@@ -16,8 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int Margin = 12;
-constexpr int Spacing = 8;
 constexpr int CharactersInLine = 64;
 
 using Addresses = std::array<QString, 10>;
@@ -53,16 +50,14 @@ frmEmail::frmEmail()
 
 void frmEmail::layOut() {
     auto* address = new QVBoxLayout(&fraAddress);
-    address->setSpacing(Spacing);
+    address->setSpacing(WindowSpacing);
     address->addWidget(&lblAddress);
     address->addWidget(&cboEmail);
     auto* subject = new QVBoxLayout(&fraSubject);
-    subject->setSpacing(Spacing);
+    subject->setSpacing(WindowSpacing);
     subject->addWidget(&txtSubject);
     subject->addWidget(&lblSubject);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(Margin, Margin, Margin, Margin);
-    column->setSpacing(Spacing);
+    auto* column = makeWindowColumn(*this);
     column->addWidget(&fraAddress);
     column->addWidget(&fraSubject);
     column->addStretch();

@@ -21,22 +21,20 @@ namespace {
 const QString PlaceSection = u"options"_s;
 constexpr int TwipsInPixel = 15;
 
-const QList<KeyedButton> toolBarButtons = {
+const QList<KeyedButton> viewerButtons = {
     {u"email"_s, u"&EMail"_s, u"EMail this text"_s, u":/icons/tools/mail.svg"_s},
     {u"Print"_s, u"&Print"_s, u"Print the highlighted text"_s, u":/icons/tools/print.svg"_s},
     {u"Copy"_s, u"&Copy"_s, u"Copy the highlighted text"_s, u":/icons/tools/copy.svg"_s},
     {u"Exit"_s, u"E&xit"_s, u"Close this window"_s, u":/icons/viewer/exit.svg"_s},
 };
 
-// A stored number of twips in pixels. What is no number, or none that a screen could have, is the
-// standard.
+// A stored number of twips, in pixels. What is not there, no number, or none that a screen could
+// have, is the standard.
 int storedPixels(const QString& key, int standard) {
     constexpr double MostTwips = 1e6;
     bool isNumber = false;
     const double twipCount =
-        GetSetting(
-            QCoreApplication::applicationName(), PlaceSection, key, QString::number(standard))
-            .toDouble(&isNumber);
+        GetSetting(QCoreApplication::applicationName(), PlaceSection, key).toDouble(&isNumber);
     const bool usable = isNumber && std::abs(twipCount) <= MostTwips;
     return twips(usable ? static_cast<int>(twipCount) : standard);
 }
@@ -74,7 +72,7 @@ QRect movedOntoScreen(QRect place, const QSize& frame) {
 
 frmMessage::frmMessage()
     : Form(u"frmMessage"_s)
-    , Toolbar(this, {u"Toolbar"}, toolBarButtons) {
+    , Toolbar(this, {u"Toolbar"}, viewerButtons) {
     setCaption(u"Lumenvia"_s);
     rtfMessage.setLocked(true);
     layOut();

@@ -5,16 +5,17 @@
 #include "core/GlobalCode.h"
 #include "prefs/Internet.h"
 
+#include <QFontInfo>
 #include <QFormLayout>
-#include <QVBoxLayout>
+#include <QGridLayout>
+#include <QIcon>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int Margin = 12;
-constexpr int Spacing = 8;
 constexpr double TitleScale = 1.6;
+constexpr QSize PictureSize(48, 48);
 
 QString versionText() {
     return u"Version %1.%2.%3"_s.arg(configuration::VersionMajor)
@@ -35,19 +36,25 @@ frmAbout::frmAbout()
 
 void frmAbout::layOut() {
     QFont large = lblTitle.font();
-    large.setPointSizeF(large.pointSizeF() * TitleScale);
+    large.setPointSizeF(QFontInfo(large).pointSizeF() * TitleScale);
     lblTitle.setFont(large);
+    picture.setPixmap(QIcon(u":/icons/lumenvia.svg"_s).pixmap(PictureSize, devicePixelRatioF()));
     auto* links = new QFormLayout;
     links->addRow(u"Home page:"_s, &Label1);
     links->addRow(u"Bibles and tools:"_s, &lblURL);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(Margin, Margin, Margin, Margin);
-    column->setSpacing(Spacing);
-    column->addWidget(&lblTitle);
-    column->addWidget(&lblVersion);
-    column->addSpacing(Spacing);
+    auto* heading = new QGridLayout;
+    heading->setSpacing(WindowSpacing);
+    heading->setHorizontalSpacing(WindowMargin);
+    heading->addWidget(&picture, 0, 0, 2, 1);
+    heading->addWidget(&lblTitle, 0, 1);
+    heading->addWidget(&lblVersion, 1, 1);
+    heading->setColumnStretch(1, 1);
+    auto* column = makeWindowColumn(*this);
+    column->addLayout(heading);
+    column->addSpacing(WindowSpacing);
     column->addLayout(links);
     column->addStretch();
+    column->addSpacing(WindowSpacing);
     column->addWidget(new ButtonRow(&cmdOk, nullptr));
     cmdOk.setFocus();
 }

@@ -12,6 +12,7 @@ class frmAbout final : public Form {
 public:
     frmAbout();
 
+    QLabel picture{this};
     Label lblTitle{this, {u"lblTitle"}};
     Label lblVersion{this, {u"lblVersion"}};
     LinkLabel Label1{this, {u"Label1"}};

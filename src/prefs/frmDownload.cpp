@@ -8,15 +8,12 @@
 #include "core/GlobalCode.h"
 #include "prefs/Internet.h"
 
-#include <QVBoxLayout>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int Margin = 12;
-constexpr int Spacing = 8;
 constexpr int CharactersInLine = 64;
+constexpr int CharactersInButton = 24;
 
 } // namespace
 
@@ -32,23 +29,23 @@ frmDownload::frmDownload()
 
 void frmDownload::layOut() {
     auto* frame = new QVBoxLayout(&Frame1);
-    frame->setSpacing(Spacing);
+    frame->setSpacing(WindowSpacing);
     for (Label* text : {&Label1, &Label3}) {
         text->setWordWrap(true);
         text->setMinimumWidth(fontMetrics().averageCharWidth() * CharactersInLine);
     }
+    for (CommandButton* button : {&Command1, &Command2})
+        button->setMinimumWidth(fontMetrics().averageCharWidth() * CharactersInButton);
     Label2.setBuddy(&cboDownload);
     frame->addWidget(&Label1);
-    frame->addSpacing(Spacing);
+    frame->addSpacing(WindowSpacing);
     frame->addWidget(&Label2);
     frame->addWidget(&cboDownload);
     frame->addWidget(&Command1, 0, Qt::AlignRight);
-    frame->addSpacing(Spacing);
+    frame->addSpacing(WindowSpacing);
     frame->addWidget(&Label3);
     frame->addWidget(&Command2, 0, Qt::AlignRight);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(Margin, Margin, Margin, Margin);
-    column->setSpacing(Spacing);
+    auto* column = makeWindowColumn(*this);
     column->addWidget(&Frame1, 1);
     column->addWidget(new ButtonRow(nullptr, &Command3));
 }

@@ -85,16 +85,14 @@ int versesToChapterEnd() {
     QVariant chapter;
     attempt([&] { chapter = rsBible.Fields(2).Value(); });
     bool inChapter = true;
-    bool ended = false;
     while (inChapter) {
-        ended = !attempt([] { rsBible.MoveNext(); }) || isBehindLastRow();
-        if (ended)
+        if (!attempt([] { rsBible.MoveNext(); }) || isBehindLastRow())
             break;
         attempt([&] { count = toInt16(count + 1); });
         inChapter = false;
         attempt([&] { inChapter = areEqual(rsBible.Fields(2).Value(), chapter); });
     }
-    const bool wholeResult = ended && InQuery == On;
+    const bool wholeResult = InQuery == On && isBehindLastRow();
     for (int step = wholeResult ? -1 : 0; step < count; ++step)
         attempt([] { rsBible.MovePrevious(); });
     return wholeResult ? count : count - 1;

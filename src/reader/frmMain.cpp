@@ -176,8 +176,8 @@ void frmMain::Form_Unload() {
     });
     deleteTempFiles();
     attempt([] { desktop().closeHelp(HelpFile); });
-    SaveSettings();
-    saveHistory();
+    attempt([] { SaveSettings(); });
+    attempt([] { saveHistory(); });
     attempt([this] { offerUpdates(); });
     desktop().endProgram();
 }

@@ -33,7 +33,8 @@ constexpr int StripSpacing = 6;
 QWidget* makeSeparator(QWidget* group) {
     auto* line = new QFrame(group);
     line->setFrameShape(QFrame::VLine);
-    line->setFrameShadow(QFrame::Sunken);
+    line->setFrameShadow(QFrame::Plain);
+    line->setForegroundRole(QPalette::Mid);
     return line;
 }
 
@@ -74,6 +75,7 @@ QWidget* frmMain::makeGroup(ToolBarButton::Group group) {
         for (ComboBox* list : {&cmbTestament, &cboBook, &cboChapter, &cboVerse})
             row->addWidget(list);
         row->addWidget(&txtFind, 1);
+        txtFind.setPlaceholderText(txtFind.ToolTipText());
         widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     }
     for (const ToolBarButton& button : toolBarButtons()) {

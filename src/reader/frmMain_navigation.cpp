@@ -114,6 +114,7 @@ void frmMain::cmbTestament_Click() {
             MessageIcon::Information, u"Tool Not Available"_s);
         return;
     }
+    ScreenBusy = On;
     const int testament = cmbTestament.ListIndex();
     seekTestament(testament);
     attempt([&] {
@@ -125,6 +126,7 @@ void frmMain::cmbTestament_Click() {
     attempt([this] { UpDateBibleText(true); });
     showNormalPointer();
     txtMain.SetFocus();
+    ScreenBusy = Off;
 }
 
 void frmMain::seekTestament(int testament) {

@@ -39,6 +39,18 @@ TEST(Keys, withKeyPreviewTheFormSeesThemFirst) {
     EXPECT_EQ(form.text.Text(), u"a"_s);
 }
 
+TEST(Keys, tabMovesTheFocusAndTheFormSeesNothing) {
+    KeyForm form;
+    TextBox next(&form, {u"txtNext"});
+    form.setKeyPreview(true);
+    form.Show();
+    QTest::keyClick(&form.text, Qt::Key_Tab);
+    EXPECT_EQ(form.focusWidget(), &next);
+    QTest::keyClick(&next, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(form.focusWidget(), &form.text);
+    EXPECT_EQ(form.seen, QList<int>{1016}); // Shift on its way to the second Tab
+}
+
 TEST(Keys, withoutKeyPreviewTheFormSeesNone) {
     KeyForm form;
     form.Show();

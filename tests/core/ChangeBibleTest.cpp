@@ -132,6 +132,15 @@ TEST_F(ChangeBible, arrowKeysGoThroughTheRows) {
     EXPECT_EQ(shown(2), u"Yes"_s);
 }
 
+TEST_F(ChangeBible, tabLeadsFromTheRowsToTheButtonsAndBack) {
+    QStringList stations;
+    for (int step = 0; step < 4; ++step) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        stations.append(QApplication::focusWidget()->objectName());
+    }
+    EXPECT_EQ(stations, (QStringList{u"cmdOK"_s, u"cmdHelp"_s, u"cmdCancel"_s, u"OptBible(2)"_s}));
+}
+
 TEST_F(ChangeBible, cancelAndEscapeChangeNothingAndLeadToTheFindBox) {
     pick(French);
     press(window().cmdCancel);

@@ -27,14 +27,14 @@ protected:
         file.write(content);
     }
 
-    // A translation whose table is made by `table` and filled with one row of `values`.
-    void addTable(const char* table, const QVariantList& values, bool index = true) const {
+    // A translation whose table is made by `table` and filled with `rows`.
+    void addTable(const char* table, const QList<QVariantList>& rows, bool index = true) const {
         DataFileWriter writer(kjv());
         writer.execute(table);
         if (index)
             writer.execute("CREATE INDEX VerseIndex ON tblMain (book, chapter, verse)");
-        if (!values.isEmpty())
-            writer.insert(u"tblMain"_s, values);
+        for (const QVariantList& row : rows)
+            writer.insert(u"tblMain"_s, row);
         writer.finish();
     }
 
@@ -92,7 +92,7 @@ TEST_F(DamagedTranslation, aFileWithoutTheTableIsAnAssignError) {
 }
 
 TEST_F(DamagedTranslation, aFileWithoutTheIndexIsAnAssignError) {
-    addTable(usualTable, {1, 1, 1, 1, u"text"_s, {}}, false);
+    addTable(usualTable, {{1, 1, 1, 1, u"text"_s, {}}}, false);
     expectMessage(assignError, u"Error"_s, MessageIcon::Information);
 }
 
@@ -105,8 +105,9 @@ TEST_F(DamagedTranslation, missingColumnsLeaveTheirPartEmpty) {
     addTable(
         "CREATE TABLE tblMain (ID INTEGER PRIMARY KEY, book INTEGER, chapter INTEGER, verse "
         "INTEGER)",
-        {1, 40, 1, 1});
+        {{1, 40, 1, 1}, {2, 40, 1, 2}, {3, 40, 2, 1}});
     startProgram();
+    EXPECT_EQ(form<frmMain>().txtMain.Text(), u"Matthew 1:1  \nMatthew 1:2  "_s);
     EXPECT_EQ(form<frmMain>().txtNote.Text(), u" "_s);
     EXPECT_EQ(VerseReference(), u"Matthew 1:1"_s);
 }
@@ -115,16 +116,29 @@ TEST_F(DamagedTranslation, surplusColumnsAreNoHindrance) {
     addTable(
         "CREATE TABLE tblMain (ID INTEGER PRIMARY KEY, book INTEGER, chapter INTEGER, "
         "verse INTEGER, body TEXT, note TEXT, more TEXT)",
-        {1, 1, 1, 1, u"text"_s, u"a note"_s, u"more"_s});
+        {{1, 40, 1, 1, u"one"_s, u"a note"_s, u"more"_s},
+         {2, 40, 1, 2, u"two"_s, {}, u"more"_s},
+         {3, 40, 2, 1, u"three"_s, {}, {}}});
     startProgram();
+    EXPECT_EQ(form<frmMain>().txtMain.Text(), u"Matthew 1:1 one \nMatthew 1:2 two "_s);
     EXPECT_EQ(form<frmMain>().txtNote.Text(), u"a note"_s);
 }
 
 TEST_F(DamagedTranslation, nullsInEveryFieldAreSilence) {
-    addTable(usualTable, {1, {}, {}, {}, {}, {}});
+    addTable(
+        usualTable, {{1, {}, {}, {}, {}, {}}, {2, {}, {}, {}, {}, {}}, {3, {}, {}, {}, {}, {}}});
     startProgram();
     EXPECT_EQ(form<frmMain>().Caption(), u"Lumenvia Professional King James [] "_s);
+    EXPECT_EQ(form<frmMain>().txtMain.Text(), QString()); // one line, and nothing in it
     EXPECT_EQ(form<frmMain>().txtNote.Text(), u" "_s);
+}
+
+TEST_F(DamagedTranslation, aRowWithoutAChapterIsAChapterByItself) {
+    addTable(
+        usualTable,
+        {{1, 1, {}, 1, u"one"_s, {}}, {2, 1, {}, 2, u"two"_s, {}}, {3, 1, 2, 1, u"three"_s, {}}});
+    startProgram();
+    EXPECT_EQ(form<frmMain>().txtMain.Text(), u"Genesis one "_s);
 }
 
 TEST_F(DamagedTranslation, aBookOutsideTheBibleIsShownWithoutAName) {

@@ -43,6 +43,8 @@ TEST_F(FindDataFileTest, aBareNameThatIsOnlyInTheLastPlaceIsFoundThere) {
 
 TEST_F(FindDataFileTest, thePlacesAreSearchedInTheirOrder) {
     QDir::setCurrent(QDir(programFile({})).filePath(u".."_s));
+    // The plain "c:\bibles\" further down is left out: on this host it is the folder of the place
+    // with the doubled backslash, which is found first. The current directory has its own test.
     const QStringList places = {
         programFolder() + u"\\kjv.mdb"_s,
         u"c:\\bibles\\\\kjv.mdb"_s,
@@ -73,6 +75,10 @@ TEST_F(FindDataFileTest, theCurrentDirectoryComesAfterTheProgramsFolder) {
     // The bare name is tried first, and the system looks for it in the current directory too.
     EXPECT_EQ(FindDataFile(u"names.mdb"_s), u"names.mdb"_s);
     EXPECT_EQ(FindDataFile(u".\\..\\elsewhere\\names.mdb"_s), u".\\..\\elsewhere\\names.mdb"_s);
+    // A name that is a full path by itself, and no file, is there only behind the directory's name.
+    EXPECT_EQ(FindDataFile(u"\\names.mdb"_s), QDir::currentPath() + u"\\\\names.mdb"_s);
+    make(programFolder() + u"\\names.mdb"_s);
+    EXPECT_EQ(FindDataFile(u"\\names.mdb"_s), programFolder() + u"\\\\names.mdb"_s);
 }
 
 TEST_F(FindDataFileTest, namesAreFoundInAnyCase) {

@@ -8,6 +8,7 @@
 #include "reader/frmMain.h"
 #include "support/ProgramFixture.h"
 
+#include <QDir>
 #include <QFile>
 
 using namespace Qt::StringLiterals;
@@ -46,12 +47,17 @@ TEST_F(GlobalCode, initGlobalsResetsTheSharedState) {
 }
 
 TEST_F(GlobalCode, theHelpFileIsSetOnlyWhereItIsFound) {
+    QDir::setCurrent(QDir::rootPath()); // where the bare name is no path
     InitGlobals();
     EXPECT_EQ(HelpFile, QString());
     QFile help(programFile(u"bible.hlp"_s));
     ASSERT_TRUE(help.open(QIODevice::WriteOnly));
     InitGlobals();
-    EXPECT_EQ(HelpFile, u"bible.hlp"_s); // found by its bare name in the current directory
+    const QString path = programFolder() + u"\\bible.hlp"_s;
+    EXPECT_EQ(HelpFile, path);
+    ASSERT_TRUE(help.remove());
+    InitGlobals();
+    EXPECT_EQ(HelpFile, path);
 }
 
 TEST_F(GlobalCode, aReferenceIsBookChapterAndVerse) {
@@ -74,6 +80,21 @@ TEST_F(GlobalCode, aReferenceOnAnEmptyCursorIsEmptyAndDrawsNothing) {
     rsBible = {};
     EXPECT_EQ(VerseReference(), QString());
     EXPECT_EQ(form<frmMain>().txtMain.Text(), QString());
+}
+
+TEST_F(GlobalCode, aReferenceOfARowWithoutABookGoesToTheFirstAndDrawsItsPage) {
+    openTranslation(chapterOf(1, 1, 3) + chapterOf(1, 2, 2));
+    OpenBibleDynaset(); // in the order of the rows, where Null is not the first
+    for (int step = 0; step < 3; ++step)
+        rsBible.MoveNext();
+    rsBible.Edit();
+    rsBible.Fields(1) = QVariant();
+    rsBible.Update();
+    EXPECT_EQ(VerseReference(), u"Genesis 1:1"_s);
+    EXPECT_EQ(position(), u"1:1:1"_s);
+    const QString page = form<frmMain>().txtMain.Text();
+    EXPECT_TRUE(page.startsWith(u"Genesis 1:1 Verse 1:1:1."_s)) << page.toStdString();
+    EXPECT_TRUE(page.endsWith(u"Verse 1:1:3. "_s)) << page.toStdString();
 }
 
 TEST_F(GlobalCode, aBookOutsideTheBibleHasNoName) {

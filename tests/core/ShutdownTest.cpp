@@ -78,6 +78,39 @@ TEST_F(Shutdown, deletesTemporaryFilesUpToTheFirstGap) {
     EXPECT_TRUE(QFile::exists(programFile(u"temp4.txt"_s)));
 }
 
+TEST_F(Shutdown, deletesEveryTemporaryFileUpToSlotAHundred) {
+    answerBefore();
+    ASSERT_EQ(TempFiles.size(), 101U);
+    for (size_t slot = 1; slot < TempFiles.size(); ++slot) {
+        TempFiles[slot] = programFile(u"temp%1.txt"_s.arg(slot));
+        makeFile(TempFiles[slot]);
+    }
+    closeWindow();
+    for (size_t slot = 1; slot < TempFiles.size(); ++slot)
+        EXPECT_FALSE(QFile::exists(TempFiles[slot])) << slot;
+}
+
+TEST_F(Shutdown, cleansUpThenSavesThenAsks) {
+    VersesPerPage = 17;
+    HistoryDate[0] = u"today"_s;
+    TempFiles[1] = programFile(u"temp.txt"_s);
+    makeFile(TempFiles[1]);
+    desktop.whenHelpCloses = [this] {
+        EXPECT_FALSE(QFile::exists(TempFiles[1]));
+        EXPECT_TRUE(settingsText(ApplicationName).contains(u"VersesPerPage=40\n"_s));
+    };
+    desktop.expectMessage(updatesQuestion, Answer::No, [this] {
+        EXPECT_EQ(desktop.closedHelpFiles.size(), 1);
+        const QString saved = settingsText(ApplicationName);
+        for (const QString& line :
+             {u"VersesPerPage=17\n"_s, u"HistoryDate0=today\n"_s, u"[Last]"_s})
+            EXPECT_TRUE(saved.contains(line)) << line.toStdString();
+        // Whoever kills the program over the question is not asked again.
+        EXPECT_TRUE(settingsText(QCoreApplication::applicationName()).contains(u"done=yes"_s));
+    });
+    closeWindow();
+}
+
 TEST_F(Shutdown, closesTheHelpViewer) {
     answerBefore();
     HelpFile = u"bible.hlp"_s;

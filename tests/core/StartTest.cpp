@@ -10,6 +10,7 @@
 #include "settings/SettingsStore.h"
 #include "support/ProgramFixture.h"
 
+#include <QDir>
 #include <QFile>
 
 using namespace Qt::StringLiterals;
@@ -38,6 +39,9 @@ TEST_F(Start, showsMatthewOneInTheMainWindow) {
 }
 
 TEST_F(Start, leavesTheFlagsOfARunningProgram) {
+    HoldUpdates = On;
+    SkipComboClick = On;
+    InQuery = On;
     startProgram();
     for (const Flag flag :
          {StartingUp, HoldUpdates, SkipComboClick, QueryLock, SettingCombos, InQuery, ScreenBusy})
@@ -80,11 +84,13 @@ TEST_F(Start, aChosenRowThatIsNoneIsPassedOver) {
 }
 
 TEST_F(Start, theRowOpenedHoldsItsPathFromThenOn) {
+    QDir::setCurrent(QDir::rootPath()); // where the bare name is no path
     startProgram();
-    EXPECT_EQ(BibleFile[2], FindDataFile(u"KJV.mdb"_s));
-    EXPECT_EQ(HomePath, BibleFile[2]);
-    EXPECT_EQ(setting(u"Path"_s), HomePath);
-    EXPECT_EQ(FindDataFile(BibleFile[2]), BibleFile[2]);
+    const QString path = programFolder() + u"\\KJV.mdb"_s;
+    EXPECT_EQ(BibleFile[2], path);
+    EXPECT_EQ(HomePath, path);
+    EXPECT_EQ(setting(u"Path"_s), path);
+    EXPECT_EQ(FindDataFile(path), path);
 }
 
 TEST_F(Start, aReadOnlyTranslationOpensSinceItsMarkIsCleared) {
@@ -95,6 +101,52 @@ TEST_F(Start, aReadOnlyTranslationOpensSinceItsMarkIsCleared) {
     rsBible.Fields(5) = u"a note"_s;
     rsBible.Update();
     EXPECT_EQ(rsBible.Fields(5).Value(), u"a note"_s);
+    // An administrator could write to it as it was.
+    EXPECT_TRUE(QFile::permissions(programFile(u"KJV.mdb"_s)).testFlag(QFileDevice::WriteOwner));
+}
+
+TEST_F(Start, aFolderThatCannotBeWrittenIsNoHindrance) {
+    addTranslation(u"KJV.mdb"_s, sampleVerses());
+    withReadOnlyFolder([this] {
+#ifdef Q_OS_UNIX
+        EXPECT_FALSE(QFile(programFile(u"new.txt"_s)).open(QIODevice::WriteOnly));
+#endif
+        startProgram();
+    });
+    EXPECT_TRUE(form<frmMain>().isVisible());
+    EXPECT_TRUE(form<frmMain>().txtMain.Text().startsWith(u"Matthew 1:1 Verse 40:1:1."_s));
+}
+
+TEST_F(Start, showsTheBookmarksOfTheSettings) {
+    SaveSetting(ApplicationName, SettingsSection, u"BookmarkTEXT0"_s, u"home"_s);
+    SaveSetting(ApplicationName, SettingsSection, u"BookmarkTEXT9"_s, u"abroad"_s);
+    startProgram();
+    frmMain& window = form<frmMain>();
+    EXPECT_EQ(window.mnuBookmark(3).Caption(), u"home"_s);
+    EXPECT_EQ(window.mnuBookmark(4).Caption(), u"abroad"_s);
+    EXPECT_TRUE(window.mnuBookmark(3).Visible() && window.mnuBookmark(4).Visible());
+}
+
+TEST_F(Start, showsPageAndNoteInTheColoursOfTheSettings) {
+    const std::pair<QString, QString> colours[] = {
+        {u"BackRed"_s, u"10"_s}, {u"BackGreen"_s, u"20"_s}, {u"BackBlue"_s, u"30"_s},
+        {u"TextRed"_s, u"40"_s}, {u"TextGreen"_s, u"50"_s}, {u"TextBlue"_s, u"60"_s}};
+    for (const auto& [key, value] : colours)
+        SaveSetting(ApplicationName, SettingsSection, key, value);
+    startProgram();
+    frmMain& window = form<frmMain>();
+    EXPECT_EQ(window.txtMain.BackColor(), QColor(10, 20, 30));
+    EXPECT_EQ(window.txtMain.SelColor(), QColor(40, 50, 60));
+    EXPECT_EQ(window.txtNote.palette().color(QPalette::Base), QColor(10, 20, 30));
+    EXPECT_EQ(window.txtNote.palette().color(QPalette::Text), QColor(40, 50, 60));
+}
+
+TEST_F(Start, aTitleShowsTheOddBracketOfARowsName) {
+    addTranslation(u"Dutchlei.mdb"_s, sampleVerses());
+    startProgram();
+    EXPECT_EQ(
+        form<frmMain>().Caption(),
+        u"Lumenvia Professional Hollands (Dutch (LEI) [Mattheus 1:1] "_s);
 }
 
 TEST_F(Start, withoutATranslationTwoMessagesEndTheProgram) {
@@ -133,7 +185,9 @@ TEST_F(Start, theHelpFileLosesItsFolder) {
     addTranslation(u"KJV.mdb"_s, sampleVerses());
     QFile help(programFile(u"bible.hlp"_s));
     ASSERT_TRUE(help.open(QIODevice::WriteOnly));
+    QDir::setCurrent(QDir::rootPath());
     startProgram();
+    EXPECT_EQ(FindDataFile(u"bible.hlp"_s), programFolder() + u"\\bible.hlp"_s);
     EXPECT_EQ(HelpFile, u"bible.hlp"_s);
 }
 

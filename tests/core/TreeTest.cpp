@@ -13,6 +13,18 @@ protected:
         startProgram();
         return form<frmMain>().tree;
     }
+
+    static QImage picture(const QIcon& icon, QIcon::Mode mode = QIcon::Normal) {
+        return icon.pixmap(32, mode).toImage();
+    }
+
+    // The icon that shows one picture, or two in turn.
+    static QIcon icon(const QString& closed, const QString& open = {}) {
+        QIcon icon(u":/icons/tree/"_s + closed + u".svg"_s);
+        if (!open.isEmpty())
+            icon.addFile(u":/icons/tree/"_s + open + u".svg"_s, {}, QIcon::Selected);
+        return icon;
+    }
 };
 
 } // namespace
@@ -39,12 +51,42 @@ TEST_F(Tree, rootsBooksAndChaptersHaveTheirKeysAndTexts) {
 }
 
 TEST_F(Tree, nodesHaveTheirPictures) {
+    struct Node {
+        QString key;
+        QString text;
+        QString parent;
+        QIcon icon;
+    };
+    const QIcon green = icon(u"green-closed"_s, u"green-open"_s);
+    const QIcon red = icon(u"red-closed"_s, u"red-open"_s);
+    const QIcon chapter = icon(u"chapter"_s);
     const TreeView& tree = startedTree();
-    for (const QString& key : {u"Root1"_s, u"Root2"_s, u"X1"_s, u"X40"_s, u"1:1"_s})
-        EXPECT_FALSE(tree.node(key)->icon(0).pixmap(16).isNull()) << key.toStdString();
-    const QIcon book = tree.node(u"X1"_s)->icon(0);
-    EXPECT_NE(book.pixmap(16, QIcon::Normal).toImage(), book.pixmap(16, QIcon::Selected).toImage());
-    EXPECT_NE(book.pixmap(16).toImage(), tree.node(u"X40"_s)->icon(0).pixmap(16).toImage());
+    const Node nodes[] = {
+        {u"Root1"_s, u"Old Testament"_s, {}, green}, {u"Root2"_s, u"New Testament"_s, {}, red},
+        {u"X1"_s, u"Genesis"_s, u"Root1"_s, green},  {u"X39"_s, u"Malachi"_s, u"Root1"_s, green},
+        {u"X40"_s, u"Matthew"_s, u"Root2"_s, red},   {u"X66"_s, u"Revelation"_s, u"Root2"_s, red},
+        {u"1:1"_s, u"1"_s, u"X1"_s, chapter},        {u"40:28"_s, u"28"_s, u"X40"_s, chapter},
+        {u"66:22"_s, u"22"_s, u"X66"_s, chapter},
+    };
+    for (const Node& node : nodes) {
+        const QTreeWidgetItem* item = tree.node(node.key);
+        ASSERT_NE(item, nullptr) << node.key.toStdString();
+        EXPECT_EQ(item->text(0), node.text);
+        EXPECT_EQ(item->parent(), tree.node(node.parent)) << node.key.toStdString();
+        for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected})
+            EXPECT_EQ(picture(item->icon(0), mode), picture(node.icon, mode))
+                << node.key.toStdString() << " " << mode;
+    }
+}
+
+TEST_F(Tree, picturesDiffer) {
+    QList<QImage> pictures;
+    for (const QString& name :
+         {u"green-closed"_s, u"green-open"_s, u"red-closed"_s, u"red-open"_s, u"chapter"_s}) {
+        pictures.append(picture(icon(name)));
+        EXPECT_FALSE(pictures.last().isNull()) << name.toStdString();
+        EXPECT_EQ(pictures.indexOf(pictures.last()), pictures.size() - 1) << name.toStdString();
+    }
 }
 
 TEST_F(Tree, showsTheNamesOfTheTranslationLoadedAtStart) {

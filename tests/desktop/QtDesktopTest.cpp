@@ -42,6 +42,7 @@ TEST(QtDesktop, showsAMessageAsPlainTextWithItsTitleAndIcon) {
             Answer::Ok);
     });
     EXPECT_EQ(seen.text, u"<b>1</b>\n\n2"_s);
+    EXPECT_EQ(seen.title, u"Title"_s);
     EXPECT_EQ(seen.icon, QMessageBox::Critical);
 }
 

@@ -231,6 +231,20 @@ TEST_F(Email, enterInEitherFieldGoesOn) {
     }
 }
 
+TEST_F(Email, tabLeadsFromTheAddressOverTheSubjectToTheButtons) {
+    open();
+    window().activateWindow();
+    QCoreApplication::processEvents();
+    QStringList stations{window().focusWidget()->objectName()};
+    for (int step = 0; step < 4; ++step) {
+        QTest::keyClick(window().focusWidget(), Qt::Key_Tab);
+        stations.append(window().focusWidget()->objectName());
+    }
+    EXPECT_EQ(
+        stations,
+        (QStringList{u"cboEmail"_s, u"txtSubject"_s, u"cmdNext"_s, u"cmdCancel"_s, u"cboEmail"_s}));
+}
+
 TEST_F(Email, cancelAndEscapeSendNothing) {
     open();
     QTest::mouseClick(&window().cmdCancel, Qt::LeftButton);

@@ -3,6 +3,7 @@
 
 #include "Configuration.h"
 #include "controls/Forms.h"
+#include "prefs/connectFirst.h"
 #include "support/ProgramFixture.h"
 
 #include <QTest>
@@ -10,10 +11,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const Message connectFirst{
-    u"Make sure you're connected to the Internet."_s, u"Lumenvia"_s, MessageIcon::Information,
-    MessageButtons::Ok};
 
 class About : public ProgramFixture {
 protected:

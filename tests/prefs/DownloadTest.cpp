@@ -5,6 +5,7 @@
 #include "controls/Forms.h"
 #include "core/Catalogue.h"
 #include "core/GlobalCode.h"
+#include "prefs/connectFirst.h"
 #include "support/ProgramFixture.h"
 
 #include <QTest>
@@ -12,10 +13,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const Message connectFirst{
-    u"Make sure you're connected to the Internet."_s, u"Lumenvia"_s, MessageIcon::Information,
-    MessageButtons::Ok};
 
 class Download : public ProgramFixture {
 protected:

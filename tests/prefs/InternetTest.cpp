@@ -3,6 +3,7 @@
 
 #include "controls/Forms.h"
 #include "output/frmEmail.h"
+#include "prefs/connectFirst.h"
 #include "support/ProgramFixture.h"
 
 #include <QTest>
@@ -11,10 +12,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const Message connectFirst{
-    u"Make sure you're connected to the Internet."_s, u"Lumenvia"_s, MessageIcon::Information,
-    MessageButtons::Ok};
 
 class Internet : public ProgramFixture {
 protected:

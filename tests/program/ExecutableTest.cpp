@@ -48,6 +48,16 @@ TEST_F(Executable, saysThatAPictureCannotBeWritten) {
     EXPECT_EQ(run(), 1);
 }
 
+TEST_F(Executable, waitsForNobodyOverAMessage) {
+    QFile bible(m_home.filePath(u"KJV.mdb"_s));
+    ASSERT_TRUE(bible.open(QIODevice::WriteOnly)); // empty
+    bible.close();
+    m_environment.insert(u"LUMENVIA_PICTURE"_s, m_home.filePath(u"picture.png"_s));
+    EXPECT_EQ(run(), 0);
+    ASSERT_TRUE(bible.remove());
+    EXPECT_EQ(run(), 1);
+}
+
 TEST_F(Executable, leavesItsSettingsUnderTheirKeys) {
     m_environment.insert(u"LUMENVIA_MEASURE"_s, u"1"_s);
     EXPECT_EQ(run(), 0);

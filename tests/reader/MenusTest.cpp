@@ -1,6 +1,7 @@
 // The menus against their table, and every shortcut through the real window.
 #include "core/GlobalCode.h"
 #include "reader/frmMain.h"
+#include "settings/SettingsStore.h"
 #include "support/ProgramFixture.h"
 
 #include <QTest>
@@ -121,6 +122,18 @@ TEST_F(Menus, everyShortcutReachesItsItemFromEveryBox) {
 
 TEST_F(Menus, theMarksOfTheSettingsStandAtStart) {
     EXPECT_FALSE(window().mnuedit(5).Checked());
+    EXPECT_FALSE(window().mnuedit(6).Checked());
+    const auto startWith = [this](const QString& showHide, const QString& hideToolbar) {
+        SaveSetting(ApplicationName, SettingsSection, u"ShowHide"_s, showHide);
+        SaveSetting(ApplicationName, SettingsSection, u"HideToolbar"_s, hideToolbar);
+        forms::discardAll();
+        startProgram();
+    };
+    startWith(u"0"_s, u"1"_s);
+    EXPECT_TRUE(window().mnuedit(5).Checked());
+    EXPECT_TRUE(window().mnuedit(6).Checked());
+    startWith(u"0"_s, u"0"_s);
+    EXPECT_TRUE(window().mnuedit(5).Checked());
     EXPECT_FALSE(window().mnuedit(6).Checked());
 }
 

@@ -92,6 +92,23 @@ TEST_F(PageComposer, headingsMayShowTheBookOrThePlaceAlone) {
     EXPECT_EQ(composed(), u"{\\b Genesis\\b0} Verse 1:1:1. \\par "_s);
 }
 
+TEST_F(PageComposer, aSwitchThatIsNotOneIsOff) {
+    openTranslation(chapterOf(1, 1, 2) + chapterOf(1, 2, 1));
+    for (const double value : {-1.0, 2.0, 0.5}) {
+        seek(1, 1, 1);
+        DisplayBook = value;
+        DisplayChapterVerse = 1;
+        DisplayIndent = value;
+        EXPECT_EQ(
+            composed(),
+            u"{\\b 1:1\\b0} Verse 1:1:1. \\par \\li0\\fi-0{\\b 1:2\\b0} Verse 1:1:2. \\par "_s)
+            << value;
+        seek(1, 1, 1);
+        DisplayChapterVerse = value;
+        EXPECT_EQ(composed(), u"Verse 1:1:1. \\par Verse 1:1:2. \\par "_s) << value;
+    }
+}
+
 TEST_F(PageComposer, runsToTheEndOfTheChapterFromWhereTheCursorStands) {
     openTranslation(sampleVerses());
     seek(19, 119, 1);
@@ -109,6 +126,31 @@ TEST_F(PageComposer, withoutWholeChapterTheSettingSizesThePage) {
     EXPECT_EQ(verses(page.rtf), 41);
     EXPECT_EQ(page.shown, 41);
     EXPECT_EQ(position(), u"1:2:11"_s);
+}
+
+TEST_F(PageComposer, nearTheTablesEndAPageOfTheSettingsSizeEndsWithIt) {
+    openTranslation(sampleVerses());
+    seek(66, 22, 15);
+    const ComposedPage page = composePage(false);
+    EXPECT_EQ(verses(page.rtf), 7);
+    EXPECT_EQ(page.shown, 7);
+    EXPECT_TRUE(page.rtf.endsWith(u"Verse 66:22:21. \\par "_s + closing));
+    EXPECT_EQ(position(), u"66:22:21"_s);
+}
+
+// The verses are counted in sixteen bits: beyond 32,767 the count stands, the walk goes on to the
+// chapter's end, and so many rows back from there the page begins.
+TEST_F(PageComposer, aChapterBeyondTheCountLosesItsHead) {
+    Verses endless;
+    for (int verse = 1; verse <= 32'800; ++verse)
+        endless.append({1, 1, verse, QString::number(verse)});
+    openTranslation(endless + chapterOf(1, 2, 1));
+    DisplayBook = 0;
+    DisplayChapterVerse = 0;
+    const QString page = composed();
+    EXPECT_EQ(verses(page), 32'767);
+    EXPECT_TRUE(page.startsWith(u"34 \\par 35 \\par "_s)) << page.left(40).toStdString();
+    EXPECT_TRUE(page.endsWith(u"32800 \\par "_s)) << page.right(40).toStdString();
 }
 
 TEST_F(PageComposer, inTheLastChapterThePageBeginsOneVerseLate) {
@@ -182,7 +224,10 @@ TEST_F(PageComposer, beforeTheFirstRowThePageBeginsWithIt) {
     openTranslation(sampleVerses());
     rsBible.MovePrevious();
     ASSERT_TRUE(rsBible.Bof());
-    EXPECT_TRUE(composed(false).contains(u"Verse 1:1:1."_s));
+    const QString page = composed(false);
+    EXPECT_TRUE(page.startsWith(u"{\\b Genesis\\b0} {\\b 1:1\\b0} Verse 1:1:1. \\par "_s))
+        << page.left(80).toStdString();
+    EXPECT_EQ(verses(page), VersesPerPage + 1);
 }
 
 TEST_F(PageComposer, stepBackStopsOnTheFirstRow) {

@@ -19,6 +19,22 @@ protected:
         window().UpDateBibleText(true);
     }
 
+    // The page with an "x" for each letter that is marked as a word of the query.
+    static std::string marks() {
+        RichTextBox& page = window().txtMain;
+        QString text = page.Text();
+        for (qsizetype place = 0; place < text.size(); ++place) {
+            if (text[place] == u'\n')
+                continue;
+            page.setSelStart(static_cast<int>(place));
+            page.setSelLength(1);
+            const bool blue = page.SelColor() == QColor(0, 0, 255);
+            if (blue && page.SelBold() && page.SelUnderline())
+                text[place] = u'x';
+        }
+        return text.toStdString();
+    }
+
     static void setNote(const QVariant& note) {
         rsBible.Edit();
         rsBible.Fields(5) = note;
@@ -186,22 +202,37 @@ TEST_F(Page, aFindBarTextThatIsNotThereMarksNothing) {
 }
 
 TEST_F(Page, inAQueryTheFirstTwoWordsAreMarked) {
-    QueryWords = {u"verse"_s, {}, u"Matthew"_s};
+    QueryWords = {u"verse"_s, u"40"_s, u"1:25"_s};
     InQuery = On;
     show(40, 1, 24);
-    InQuery = Off;
+    EXPECT_EQ(marks(), "Matthew 1:24 xxxxx xx:1:24. \nMatthew 1:25 xxxxx xx:1:25. ");
+    // A search begins with the second character of the page.
+    QueryWords = {QString(), u"matthew"_s, u"verse"_s};
+    show(40, 1, 24);
+    EXPECT_EQ(marks(), "Matthew 1:24 Verse 40:1:24. \nxxxxxxx 1:25 Verse 40:1:25. ");
+}
+
+TEST_F(Page, inAQueryTheReaderStandsAtItsTopWithTheOldPointer) {
+    QueryWords = {u"verse"_s};
+    InQuery = On;
+    window().txtFind.SetFocus();
+    show(40, 1, 24);
     RichTextBox& page = window().txtMain;
-    const QString text = page.Text();
-    for (qsizetype place = text.indexOf(u"Verse"_s); place >= 0;
-         place = text.indexOf(u"Verse"_s, place + 1)) {
-        page.setSelStart(static_cast<int>(place));
-        page.setSelLength(5);
-        EXPECT_TRUE(page.SelBold() && page.SelUnderline());
-        EXPECT_EQ(page.SelColor(), QColor(0, 0, 255));
-    }
-    page.setSelStart(1);
-    page.setSelLength(3);
-    EXPECT_FALSE(page.SelUnderline());
+    EXPECT_EQ(page.SelStart(), 1);
+    EXPECT_EQ(page.SelLength(), 0);
+    EXPECT_TRUE(page.Visible());
+    EXPECT_EQ(window().focusWidget(), &page);
+    EXPECT_EQ(window().cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(Page, inAQueryTheFindBarsTextIsMarkedLast) {
+    QueryWords = {u"verse"_s};
+    InQuery = On;
+    window().txtFind.setText(u"1:25"_s);
+    show(40, 1, 24);
+    EXPECT_EQ(window().txtMain.SelStart(), window().txtMain.Text().indexOf(u"1:25"_s));
+    EXPECT_EQ(window().txtMain.SelLength(), 0);
+    EXPECT_EQ(marks(), "Matthew 1:24 xxxxx 40:1:24. \nMatthew 1:25 xxxxx 40:1:25. ");
 }
 
 TEST_F(Page, outsideAQueryNoWordIsMarked) {
@@ -217,6 +248,8 @@ TEST_F(Page, takesTheUsersColoursAndTheNoteHisFont) {
     BackGreen = 300;
     BackBlue = -5;
     TextRed = 7;
+    TextGreen = 8;
+    TextBlue = 9;
     MainFontSize = 15;
     MainFontName = u"Liberation Mono"_s;
     MainBold = -1;
@@ -225,7 +258,7 @@ TEST_F(Page, takesTheUsersColoursAndTheNoteHisFont) {
     window().FormatText();
     EXPECT_EQ(window().txtMain.BackColor(), QColor(10, 255, 0));
     EXPECT_EQ(window().txtNote.palette().color(QPalette::Base), QColor(10, 255, 0));
-    EXPECT_EQ(window().txtNote.palette().color(QPalette::Text), QColor(7, 0, 0));
+    EXPECT_EQ(window().txtNote.palette().color(QPalette::Text), QColor(7, 8, 9));
     const QFont font = window().txtNote.font();
     EXPECT_EQ(font.pointSizeF(), 15);
     EXPECT_EQ(font.family(), u"Liberation Mono"_s);
@@ -233,18 +266,36 @@ TEST_F(Page, takesTheUsersColoursAndTheNoteHisFont) {
 }
 
 TEST_F(Page, bodiesThatLookLikeCodesBreakNothing) {
+    const std::pair<QString, QString> bodies[] = {
+        {u"a {brace} b"_s, u"a brace b "_s},
+        {u"a \\backslash b"_s, u"a b "_s},
+        {u"a \\\\ b"_s, u"a \\ b "_s},
+        {u"}}}} c"_s, u" c "_s},
+        {u"{{{{ d"_s, u" d "_s},
+        {QChar(30) + u"00"_s, {}},
+    };
+    Verses verses;
+    for (const auto& [body, shown] : bodies)
+        verses.append({1, 1 + static_cast<int>(verses.size()), 1, body});
+    openTranslation(verses + chapterOf(2, 1, 1), u"YLT.mdb"_s);
+    for (int chapter = 1; chapter <= verses.size(); ++chapter) {
+        show(1, chapter, 1);
+        EXPECT_EQ(
+            window().txtMain.Text().toStdString(),
+            u"Genesis %1:1 %2"_s.arg(chapter)
+                .arg(bodies[static_cast<size_t>(chapter) - 1].second)
+                .toStdString());
+    }
+}
+
+TEST_F(Page, aBodyThatOpensATableHidesNoMoreThanItsOwnPage) {
     openTranslation(
-        {{1, 1, 1, u"a {brace} b"_s},
-         {1, 1, 2, u"a \\backslash b"_s},
-         {1, 1, 3, u"}}}} c"_s},
-         {1, 1, 4, u"{\\fonttbl"_s},
-         {1, 1, 5, QChar(30) + u"00"_s},
-         {1, 1, 6, u"last"_s},
-         {1, 2, 1, u"x"_s}},
+        {{1, 1, 1, u"a {\\fonttbl b"_s}, {1, 1, 2, u"c"_s}, {1, 2, 1, u"d"_s}, {1, 3, 1, u"e"_s}},
         u"YLT.mdb"_s);
     show(1, 1, 1);
-    EXPECT_TRUE(window().txtMain.Text().startsWith(u"Genesis 1:1 a brace b"_s))
-        << window().txtMain.Text().toStdString();
+    EXPECT_EQ(window().txtMain.Text(), u"Genesis 1:1 a "_s);
+    show(1, 2, 1);
+    EXPECT_EQ(window().txtMain.Text(), u"Genesis 2:1 d "_s);
 }
 
 TEST_F(Page, printerOutputRunsOverChaptersAndPutsTheCursorBack) {
@@ -254,6 +305,19 @@ TEST_F(Page, printerOutputRunsOverChaptersAndPutsTheCursorBack) {
         window().FormatPrinterOutput(),
         u"Bible translation used: King James\r\n\r\nMatthew 1:24 Verse 40:1:24.\r\n"
         u"Matthew 1:25 Verse 40:1:25.\r\nMatthew 2:1 Verse 40:2:1.\r\n"_s);
+    EXPECT_EQ(position(), u"40:1:24"_s);
+}
+
+TEST_F(Page, printerOutputPassesOverARowThatCannotBeRead) {
+    VersesPerPage = 2;
+    rsBible.Seek(u"="_s, 40, 1, 24);
+    rsBible.Edit();
+    rsBible.Fields(4) = QVariant();
+    rsBible.Update();
+    EXPECT_EQ(
+        window().FormatPrinterOutput(),
+        u"Bible translation used: King James\r\n\r\nMatthew 1:25 Verse 40:1:25.\r\n"
+        u"Matthew 2:1 Verse 40:2:1.\r\n"_s);
     EXPECT_EQ(position(), u"40:1:24"_s);
 }
 

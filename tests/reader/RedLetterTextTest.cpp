@@ -27,6 +27,14 @@ TEST_F(RedLetter, theRunOfThePrefixIsReddened) {
         u"he s\\cf2aGO \\cf1 therefore"_s);
 }
 
+TEST_F(RedLetter, eachNumberHasThreeDigitsAndTheSignBetweenThemIsIgnored) {
+    for (const QString& prefix : {u"004 003"_s, u"0049003"_s, u"004x003"_s})
+        EXPECT_EQ(
+            RedLetterText(marked(prefix + u"he saGO therefore"_s), true),
+            u"he s\\cf2aGO \\cf1 therefore"_s);
+    EXPECT_EQ(RedLetterText(marked(u"001:0012345"_s), true), u"2\\cf23 \\cf145"_s);
+}
+
 TEST_F(RedLetter, withoutColourThePrefixIsRemoved) {
     EXPECT_EQ(RedLetterText(marked(u"004:003he saGO"_s), false), u"he saGO"_s);
 }

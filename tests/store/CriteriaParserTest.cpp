@@ -270,7 +270,7 @@ TEST(Criteria, aTextOfAMegabyteIsAnsweredAtOnce) {
     EXPECT_TRUE(isRefused(repeated(u"(a = 1 and "_s, 100000)));
     EXPECT_TRUE(isRefused(repeated(u"'"_s, 1000001)));
     EXPECT_EQ(parseCriteria(u"a = '"_s + repeated(u"x"_s, 1000000) + u"'"_s).kind, Kind::Equal);
-    EXPECT_LT(timer.elapsed(), 2000);
+    EXPECT_LT(timer.elapsed(), 20000) << "quadratic time would be many minutes";
 }
 
 } // namespace

@@ -145,6 +145,7 @@ TEST_F(Find, comparesTextsWithoutRegardToCase) {
     EXPECT_EQ(found(u"verse = \"2\""_s), 2);
     EXPECT_EQ(found(u"verse like \"2*\""_s), 2);
     EXPECT_EQ(found(u"body > \"the\""_s), 3);
+    EXPECT_EQ(found(u"verse like \"2*\" and verse = 2 and verse < \"3\""_s), 2);
 }
 
 TEST_F(Find, aNullFieldMeetsNoComparison) {

@@ -100,6 +100,13 @@ TEST(Like, prefixesZerosAndStrayBytesAreCharactersLikeOthers) {
           std::string("\xED\xA0\x80light"), std::string("\xF8\x88light\x80")})
         EXPECT_TRUE(LikePattern(u"*LIGHT*"_s).matches(damaged));
     EXPECT_FALSE(LikePattern(u"*\uFFFD*"_s).matches("\xFF"));
+    for (const std::string& damaged :
+         {std::string("\xC3\xC3\x89"), std::string("\xE2\xC3\xA9\xC3"),
+          std::string("\xA9\xC3\x89\xA9")})
+        EXPECT_TRUE(LikePattern(u"*é*"_s).matches(damaged));
+    for (const std::string& damaged :
+         {std::string("\xC3"), std::string("\xA9\xC3"), std::string("\xE9")})
+        EXPECT_FALSE(LikePattern(u"*é*"_s).matches(damaged));
 }
 
 // The order of the engine's bytes does not matter here, only that of characters.
@@ -181,7 +188,7 @@ TEST(Like, takesTimeLinearInTheText) {
     EXPECT_FALSE(isLike(text, u"*ab"_s + u"a"_s.repeated(300000) + u"*"_s));
     EXPECT_FALSE(isLike(text, u"*"_s + u"a"_s.repeated(300000) + u"b"_s));
     EXPECT_FALSE(isLike(u"ab"_s.repeated(500000), u"*"_s + u"ab"_s.repeated(150000) + u" *"_s));
-    EXPECT_LT(timer.elapsed(), 5000);
+    EXPECT_LT(timer.elapsed(), 60000) << "quadratic time would be many minutes";
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "basic/Error.h"
 #include "controls/Forms.h"
+#include "controls/Handler.h"
 #include "core/BookNames.h"
 #include "core/GlobalCode.h"
 #include "core/NewSetup.h"
@@ -10,8 +11,39 @@
 #include "store/DataFile.h"
 
 #include <QDir>
+#include <QFile>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Lays down the rights of an administrator, whom no permission stops, for as long as it lives.
+class PlainUser {
+public:
+#ifdef Q_OS_UNIX
+    PlainUser() {
+        if (getuid() == 0) {
+            constexpr uid_t Nobody = 65534;
+            EXPECT_EQ(setegid(Nobody), 0);
+            EXPECT_EQ(seteuid(Nobody), 0);
+        }
+    }
+    ~PlainUser() {
+        EXPECT_EQ(seteuid(getuid()), 0);
+        EXPECT_EQ(setegid(getgid()), 0);
+    }
+#else
+    PlainUser() = default;
+    ~PlainUser() = default;
+#endif
+    Q_DISABLE_COPY_MOVE(PlainUser)
+};
+
+} // namespace
 
 Verses chapterOf(int book, int chapter, int count) {
     Verses verses;
@@ -87,6 +119,31 @@ void ProgramFixture::startProgram() {
     if (QDir(m_home.path()).isEmpty())
         addTranslation(u"KJV.mdb"_s, sampleVerses());
     Main();
+}
+
+void ProgramFixture::restartProgram() {
+    forms::discardAll();
+    forgetProgramEnd();
+    resetProgram();
+    setSettingsFolder(m_settings.path());
+    Main();
+}
+
+void ProgramFixture::withReadOnlyFolder(const std::function<void()>& action) {
+    constexpr QFileDevice::Permissions Readable = QFileDevice::ReadOwner | QFileDevice::ExeOwner
+                                                  | QFileDevice::ReadOther | QFileDevice::ExeOther;
+    const QFileDevice::Permissions before = QFile::permissions(m_home.path());
+    ASSERT_TRUE(QFile::setPermissions(m_home.path(), Readable));
+    {
+        const PlainUser user;
+        action();
+    }
+    QFile::setPermissions(m_home.path(), before);
+}
+
+QString ProgramFixture::settingsText(const QString& application) const {
+    QFile file(m_settings.filePath(application + u".ini"_s));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 QString ProgramFixture::position() {

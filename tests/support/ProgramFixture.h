@@ -41,6 +41,16 @@ protected:
     // Starts the program on the sample verses as KJV.mdb, or on what the test has added.
     void startProgram();
 
+    // Starts the program once more, as a new process does: with what the files and the settings
+    // store hold, and nothing else.
+    void restartProgram();
+
+    // Runs the action as a user who can read the program's folder and write nothing in it.
+    void withReadOnlyFolder(const std::function<void()>& action);
+
+    // What the settings file of an application holds on disk.
+    QString settingsText(const QString& application) const;
+
     // What the cursor stands on, such as "40:1:1"; "BOF", "EOF" or "none".
     static QString position();
 

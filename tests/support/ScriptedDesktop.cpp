@@ -23,24 +23,25 @@ ScriptedDesktop::~ScriptedDesktop() {
     forgetProgramEnd();
 }
 
-void ScriptedDesktop::expectMessage(const Message& message, Answer answer) {
-    m_script.push_back({Event::Kind::Message, message, answer, {}, {}, {}});
+void ScriptedDesktop::expectMessage(
+    const Message& message, Answer answer, std::function<void()> meanwhile) {
+    m_script.push_back({Event::Kind::Message, message, answer, {}, {}, {}, std::move(meanwhile)});
 }
 
 void ScriptedDesktop::expectWindow(std::function<void(QWidget&)> user) {
-    m_script.push_back({Event::Kind::Window, {}, Answer::Ok, std::move(user), {}, {}});
+    m_script.push_back({Event::Kind::Window, {}, Answer::Ok, std::move(user), {}, {}, {}});
 }
 
 void ScriptedDesktop::expectLink(const QString& link) {
-    m_script.push_back({Event::Kind::Link, {}, Answer::Ok, {}, link, {}});
+    m_script.push_back({Event::Kind::Link, {}, Answer::Ok, {}, link, {}, {}});
 }
 
 void ScriptedDesktop::expectPrinter(const QString& file) {
-    m_script.push_back({Event::Kind::Printer, {}, Answer::Ok, {}, file, {}});
+    m_script.push_back({Event::Kind::Printer, {}, Answer::Ok, {}, file, {}, {}});
 }
 
 void ScriptedDesktop::expectEnd() {
-    m_script.push_back({Event::Kind::End, {}, Answer::Ok, {}, {}, {}});
+    m_script.push_back({Event::Kind::End, {}, Answer::Ok, {}, {}, {}, {}});
 }
 
 ScriptedDesktop::Event ScriptedDesktop::next(Event::Kind kind, const QString& description) {
@@ -59,6 +60,8 @@ Answer ScriptedDesktop::showMessage(const Message& message) {
     EXPECT_EQ(message.title.toStdString(), event.message.title.toStdString());
     EXPECT_EQ(message.icon, event.message.icon);
     EXPECT_EQ(message.buttons, event.message.buttons);
+    if (event.meanwhile)
+        event.meanwhile();
     return event.answer;
 }
 
@@ -76,7 +79,7 @@ void ScriptedDesktop::openLink(const QString& link) {
 }
 
 void ScriptedDesktop::expectMenu(std::function<void(QMenu&)> user) {
-    m_script.push_back({Event::Kind::Menu, {}, Answer::Ok, {}, {}, std::move(user)});
+    m_script.push_back({Event::Kind::Menu, {}, Answer::Ok, {}, {}, std::move(user), {}});
 }
 
 void ScriptedDesktop::runMenu(QMenu& menu, const QPoint& /*place*/) {
@@ -92,6 +95,8 @@ void ScriptedDesktop::showHelp(const QString& helpFile, HelpCommand command, int
 
 void ScriptedDesktop::closeHelp(const QString& helpFile) {
     closedHelpFiles.append(helpFile);
+    if (whenHelpCloses)
+        whenHelpCloses();
 }
 
 std::unique_ptr<QPagedPaintDevice> ScriptedDesktop::choosePrinter() {

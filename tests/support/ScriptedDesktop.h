@@ -16,8 +16,10 @@ public:
     // Fails the test for each expected thing that did not happen.
     ~ScriptedDesktop() override;
 
-    // The next message box shall say just this; it is answered so.
-    void expectMessage(const Message& message, Answer answer = Answer::Ok);
+    // The next message box shall say just this; it is answered so. The action looks about while the
+    // box is up.
+    void expectMessage(
+        const Message& message, Answer answer = Answer::Ok, std::function<void()> meanwhile = {});
 
     // The next modal window shall open; the action plays its user. Afterwards the window must be
     // closed.
@@ -29,7 +31,8 @@ public:
     // The next link that leaves the program shall be this one.
     void expectLink(const QString& link);
 
-    // The print dialog shall open next. The user prints into a PDF file, or cancels if it has no name.
+    // The print dialog shall open next. The user prints into a PDF file, or cancels if it has no
+    // name.
     void expectPrinter(const QString& file);
 
     // The program shall end.
@@ -51,6 +54,7 @@ public:
     int beeps = 0;
     QString clipboard;
     QStringList closedHelpFiles;
+    std::function<void()> whenHelpCloses;
     QStringList shownHelp; // "file 0" for the contents, "file topic" for a topic
 
 private:
@@ -62,6 +66,7 @@ private:
         std::function<void(QWidget&)> user;
         QString link;
         std::function<void(QMenu&)> menuUser;
+        std::function<void()> meanwhile;
     };
 
     // The next expected event if it is of this kind; otherwise the test fails and the answer is an

@@ -29,6 +29,13 @@ private:
 
 } // namespace
 
+QVBoxLayout* makeWindowColumn(Form& window) {
+    auto* column = new QVBoxLayout(&window);
+    column->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
+    column->setSpacing(WindowSpacing);
+    return column;
+}
+
 ButtonRow::ButtonRow(CommandButton* accept, CommandButton* cancel) {
     if (accept)
         addButton(accept, AcceptRole);

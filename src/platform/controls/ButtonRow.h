@@ -1,12 +1,20 @@
-// The buttons at the foot of a window, in the order and at the side that the platform wants, and
-// the button that Enter presses.
+// How a tool window is built: the column of its controls, the buttons at its foot, in the order and
+// at the side that the platform wants, and the button that Enter presses.
 #pragma once
 
 #include "controls/CommandButton.h"
 
 #include <QDialogButtonBox>
+#include <QVBoxLayout>
 
 class Form;
+
+// Device-independent pixels around the controls of a window, and between them.
+inline constexpr int WindowMargin = 12;
+inline constexpr int WindowSpacing = 8;
+
+// Gives a window the column that holds its controls.
+QVBoxLayout* makeWindowColumn(Form& window);
 
 class ButtonRow final : public QDialogButtonBox {
 public:

@@ -6,6 +6,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QScreen>
+#include <QWindow>
 #include <algorithm>
 
 namespace {
@@ -46,6 +48,18 @@ void installKeyFilter() {
         return;
     filter = new KeyFilter(qApp);
     qApp->installEventFilter(filter);
+}
+
+// Over the middle of its owner, as far as the screen allows.
+QPoint placeOver(const QWidget& owner, const QWidget& window) {
+    const QRect screen = owner.screen()->availableGeometry();
+    const QPoint corner = owner.geometry().center() - window.rect().center();
+    const auto within = [](int value, int low, int high) {
+        return std::max(low, std::min(value, high));
+    };
+    return {
+        within(corner.x(), screen.left(), screen.right() - window.width()),
+        within(corner.y(), screen.top(), screen.bottom() - window.height())};
 }
 
 } // namespace
@@ -127,6 +141,8 @@ bool Form::previewKey(QKeyEvent& event) {
     int code = keyCodeOf(event);
     if (code == 0)
         return false; // a key that the program has no code for
+    if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab)
+        return false; // it leads to the next control, and is no key of this one
     runHandler([&] { Form_KeyDown(code, shiftOf(event)); });
     return code == 0;
 }
@@ -160,6 +176,18 @@ void Form::closeEvent(QCloseEvent* event) {
 void Form::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
     focusReached(*this, *this);
+}
+
+// A window belongs to the one that it was called from: it stands before it, and over it unless it
+// has a place of its own.
+void Form::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    const QWidget* owner = QApplication::activeWindow();
+    if (event->spontaneous() || !owner || owner == this)
+        return;
+    windowHandle()->setTransientParent(owner->windowHandle());
+    if (!testAttribute(Qt::WA_Moved))
+        move(placeOver(*owner, *this));
 }
 
 void Form::keyPressEvent(QKeyEvent* event) {

@@ -5,6 +5,7 @@ using namespace Qt::StringLiterals;
 LinkLabel::LinkLabel(QWidget* parent, const ControlText& text)
     : Control(parent, text) {
     setTextFormat(Qt::RichText);
+    setMargin(2); // room for the mark of the focus
     setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     setCaption(text.caption.toString());
     connect(this, &QLabel::linkActivated, this, [this] { Click.raise(); });

@@ -3,7 +3,7 @@
 
 #include "desktop/Desktop.h"
 
-class QtDesktop final : public Desktop {
+class QtDesktop : public Desktop {
 public:
     Answer showMessage(const Message& message) override;
     void runModal(QWidget& window) override;

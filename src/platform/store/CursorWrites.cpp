@@ -8,10 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-[[noreturn]] void throwNoSuchField(const TableSchema& table, const QString& field) {
-    throw Error(Error::ItemNotFound, u"The table \"%1\" has no field %2."_s.arg(table.name, field));
-}
-
 [[noreturn]] void throwRecordDeleted() {
     throw Error(Error::RecordDeleted, u"The row was deleted."_s);
 }
@@ -22,7 +18,7 @@ int CursorState::ordinal(int ordinal) const {
     checkOpen();
     const TableSchema& table = source().table();
     if (ordinal < 0 || ordinal >= static_cast<int>(table.columns.size()))
-        throwNoSuchField(table, QString::number(ordinal));
+        table.failForLackOf(QString::number(ordinal));
     return ordinal;
 }
 
@@ -31,7 +27,7 @@ int CursorState::ordinal(const QString& name) const {
     const TableSchema& table = source().table();
     const int found = table.columnNamed(name);
     if (found < 0)
-        throwNoSuchField(table, u'"' + name + u'"');
+        table.failForLackOf(u'"' + name + u'"');
     return found;
 }
 

@@ -9,9 +9,8 @@
 // What makes a file one of ours, in the header of the file.
 inline constexpr int DataFileApplicationId = 0x4C756D76; // "Lumv"
 
-// Every operation throws
-// Error::StorageFailure, with what is wrong, when the file cannot be written, and
-// Error::AlreadyClosed when the writer is done.
+// Every operation throws Error::StorageFailure, with what is wrong, when the file cannot be
+// written, and Error::AlreadyClosed when the writer is done.
 class DataFileWriter {
 public:
     // Begins a file that is to stand at `path` (a path of the host). Nothing appears there yet.

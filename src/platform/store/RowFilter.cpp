@@ -1,12 +1,8 @@
 #include "store/RowFilter.h"
 
-#include "basic/Error.h"
-
 #include <algorithm>
 #include <cmath>
 #include <sqlite3.h>
-
-using namespace Qt::StringLiterals;
 
 struct RowFilter::Node {
     Criterion::Kind kind = Criterion::Kind::And;
@@ -104,9 +100,7 @@ RowFilter::Node RowFilter::compile(const Criterion& criteria, const TableSchema&
 void RowFilter::compileComparison(Node& node, const Criterion& criteria, const TableSchema& table) {
     const int column = table.columnNamed(criteria.field);
     if (column < 0)
-        throw Error(
-            Error::ItemNotFound,
-            u"The table \"%1\" has no field \"%2\"."_s.arg(table.name, criteria.field));
+        table.failForLackOf(u'"' + criteria.field + u'"');
     node.slot = slotOf(column);
     if (criteria.kind == Criterion::Kind::Like)
         node.pattern.emplace(criteria.value.toString());

@@ -19,8 +19,8 @@ using ConnectionPointer = std::shared_ptr<const Connection>;
 
 [[noreturn]] void throwNotAnIndex(const TableSchema& table, const QString& name) {
     throw Error(
-        Error::NotAnIndex,
-        u"The table \"%1\" has no index \"%2\" to follow."_s.arg(table.name, name));
+        Error::NotAnIndex, u"The file %1 has no index \"%2\" to follow on its table \"%3\"."_s.arg(
+                               table.file, name, table.name));
 }
 
 // The engine's own rules, in its order.
@@ -86,11 +86,6 @@ void findRowNumber(const ConnectionPointer& connection, TableSchema& table, int 
 
 } // namespace
 
-bool Column::holdsNumbers() const {
-    return affinity == Affinity::Integer || affinity == Affinity::Real
-           || affinity == Affinity::Numeric;
-}
-
 QByteArray quotedName(const QString& name) {
     return '"' + name.toUtf8().replace("\"", "\"\"") + '"';
 }
@@ -100,6 +95,12 @@ int TableSchema::columnNamed(const QString& columnName) const {
         return isSameName(column.name, columnName);
     });
     return found == columns.end() ? -1 : static_cast<int>(found - columns.begin());
+}
+
+void TableSchema::failForLackOf(const QString& field) const {
+    throw Error(
+        Error::ItemNotFound,
+        u"The file %1 has no field %2 in its table \"%3\"."_s.arg(file, field, name));
 }
 
 int TableSchema::rowNumberColumn() const {
@@ -117,6 +118,7 @@ QByteArray TableSchema::selectRow() const {
 
 TableSchema readTableSchema(const ConnectionPointer& connection, const QString& name) {
     TableSchema table;
+    table.file = connection->shownName();
     table.name = findTable(connection, name);
     Statement columns(connection, "SELECT name, type, pk, hidden FROM pragma_table_xinfo(?1)");
     const StatementRun run(columns);

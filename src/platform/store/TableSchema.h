@@ -13,20 +13,22 @@ struct Column {
     QString name;
     Affinity affinity = Affinity::None;
     bool isRowNumber = false; // the column is the row's number itself
-
-    bool holdsNumbers() const;
 };
 
 // The name as SQL takes it, whatever it holds.
 QByteArray quotedName(const QString& name);
 
 struct TableSchema {
+    QString file; // as messages show it
     QString name;
     QByteArray rowNumber; // quoted name of the row's number
     std::vector<Column> columns;
 
     // The column of a name, without regard to case; -1 if there is none.
     int columnNamed(const QString& columnName) const;
+
+    // Error::ItemNotFound; the field as the message shows it.
+    [[noreturn]] void failForLackOf(const QString& field) const;
 
     // The column that is the row's number; -1 if there is none.
     int rowNumberColumn() const;

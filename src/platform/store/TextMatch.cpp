@@ -9,6 +9,9 @@ namespace {
 // Bytes that belong to no character stand above all characters.
 constexpr char32_t StrayBytes = 0x110000;
 
+// The least byte that begins a character of several bytes.
+constexpr unsigned char LeadBytes = 0xC2;
+
 // Folding by table up to here covers the scripts that know case and are in use.
 constexpr char32_t TableEnd = 0x2200;
 
@@ -32,6 +35,12 @@ public:
     bool atEnd() const { return m_at == m_end; }
     std::string_view rest() const { return {m_at, static_cast<size_t>(m_end - m_at)}; }
 
+    // Goes on to the next byte with which a character begins that is looked for.
+    void skipTo(const std::array<bool, 256>& isStart) {
+        while (!atEnd() && !isStart[static_cast<unsigned char>(*m_at)])
+            ++m_at;
+    }
+
     char32_t next() {
         const char32_t character = decode();
         if (character < TableEnd)
@@ -44,7 +53,7 @@ private:
         const auto lead = static_cast<unsigned char>(*m_at++);
         if (lead < 0x80)
             return lead;
-        if (lead >= 0xC2 && lead < 0xE0)
+        if (lead >= LeadBytes && lead < 0xE0)
             return decodeRest(lead, lead & 0x1Fu, 1, 0x80);
         if (lead >= 0xE0 && lead < 0xF0)
             return decodeRest(lead, lead & 0x0Fu, 2, 0x800);
@@ -120,6 +129,7 @@ int compareFolded(std::string_view text, const std::u32string& other) {
 FoldedRun::FoldedRun(std::u32string characters)
     : m_characters(std::move(characters)) {
     buildFallbacks();
+    noteStarts();
     chooseProbes();
 }
 
@@ -127,6 +137,17 @@ void FoldedRun::buildFallbacks() {
     m_fallbacks.assign(m_characters.size() + 1, 0);
     for (size_t length = 1; length < m_characters.size(); ++length)
         m_fallbacks[length + 1] = nextState(m_fallbacks[length], m_characters[length]);
+}
+
+// The first byte of every form of the first character. Of the forms beyond ASCII it is known only
+// that they begin with a lead byte.
+void FoldedRun::noteStarts() {
+    if (m_characters.empty())
+        return;
+    const char32_t character = m_characters.front();
+    for (size_t byte = 0; byte < m_isStart.size(); ++byte)
+        m_isStart[byte] = byte < 0x80 ? foldTable()[byte] == character
+                                      : byte >= LeadBytes && !isOneByte(character);
 }
 
 // The two neighbours that are met together least often: most texts are then turned down without
@@ -188,13 +209,17 @@ std::optional<std::string_view> FoldedRun::behindFirst(std::string_view text) co
 }
 
 std::optional<std::string_view> FoldedRun::behindFirstDecoded(std::string_view text) const {
+    FoldedReader reader(text);
     size_t state = 0;
-    for (FoldedReader reader(text); !reader.atEnd();) {
+    while (true) {
+        if (state == 0)
+            reader.skipTo(m_isStart);
+        if (reader.atEnd())
+            return std::nullopt;
         state = nextState(state, reader.next());
         if (state == m_characters.size())
             return reader.rest();
     }
-    return std::nullopt;
 }
 
 // The next place where both probes fit. Looks at blocks without a branch inside, which compilers

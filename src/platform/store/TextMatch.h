@@ -7,6 +7,7 @@
 #pragma once
 
 #include <QString>
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -41,6 +42,7 @@ private:
     enum class Fit { Yes, No, Unclear };
 
     void buildFallbacks();
+    void noteStarts();
     void chooseProbes();
     size_t nextState(size_t state, char32_t character) const;
     std::optional<std::string_view> behindFirstDecoded(std::string_view text) const;
@@ -48,8 +50,9 @@ private:
     Fit fitAround(std::string_view text, size_t candidate) const;
 
     std::u32string m_characters;
-    std::vector<size_t> m_fallbacks; // where a run that broke off may go on (Knuth-Morris-Pratt)
-    Probe m_first;                   // of two neighbours in the run, if m_hasProbes
+    std::vector<size_t> m_fallbacks;   // where a run that broke off may go on (Knuth-Morris-Pratt)
+    std::array<bool, 256> m_isStart{}; // the bytes with which the run may begin in a text
+    Probe m_first;                     // of two neighbours in the run, if m_hasProbes
     Probe m_second;
     size_t m_probePlace = 0;
     bool m_hasProbes = false;

@@ -1,0 +1,18 @@
+#include "search/frmWorking.h"
+
+#include "support/ProgramFixture.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Working : public ProgramFixture {};
+
+} // namespace
+
+TEST_F(Working, asksForAMomentOverAnEmptyBar) {
+    const frmWorking window;
+    EXPECT_EQ(window.Caption(), u"Working..."_s);
+    EXPECT_EQ(window.lblWorking.Caption(), u"One Moment Please..."_s);
+    EXPECT_LE(window.pbWorking.Value(), 0);
+}
