@@ -55,7 +55,18 @@ void frmDownload::Form_Load() {
         if (!Trim(name).isEmpty())
             cboDownload.AddItem(name);
     }
-    attempt([this] { cboDownload.setListIndex(DownloadItem); });
+    selectItem();
+}
+
+// Asked for again while it is open, it goes to the row that is asked for now.
+void frmDownload::Form_Activate() {
+    if (m_item != DownloadItem)
+        selectItem();
+}
+
+void frmDownload::selectItem() {
+    m_item = DownloadItem;
+    attempt([this] { cboDownload.setListIndex(m_item); });
 }
 
 // The list's rows are taken for those of the catalogue, although it leaves out rows without a name.

@@ -38,8 +38,12 @@ public:
 
 protected:
     void Form_Load() override;
+    void Form_Activate() override;
     CommandButton* closingButton() override { return &Command3; }
 
 private:
     void layOut();
+    void selectItem();
+
+    int m_item = 0;
 };

@@ -32,6 +32,8 @@ bool storeNote(const VerseRow& row, const QString& note) {
         Recordset verses = dbBible.OpenRecordset(u"tblMain"_s, dbOpenTable);
         verses.Index(u"VerseIndex"_s);
         verses.Seek(u"="_s, row.book, row.chapter, row.verse);
+        while (!verses.NoMatch() && verses.Fields(0).Value() != row.id)
+            verses.MoveNext(); // another row of the same address
         if (verses.NoMatch())
             return;
         verses.Edit();

@@ -207,8 +207,11 @@ void frmMain::offerUpdates() {
         + QString::number(configuration::VersionMinor) + u']');
 }
 
+// A tool window that has just closed may have moved the cursor.
 void frmMain::Form_Activate() {
     Resize();
+    if (StartingUp == Off && HoldUpdates == Off)
+        refreshNote();
 }
 
 void frmMain::windowLeft() {

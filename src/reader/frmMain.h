@@ -69,8 +69,9 @@ public:
     // press End Query first.
     void loadNewBible(int row);
 
-    // A hook of the catalogue's loading.
+    // Hooks of the catalogue's loading and of the export.
     void UpdateMenu() {}
+    void ExportText() {}
 
     // Turns the position of the cursor into the page: from the current row to the end of its
     // chapter, or, without WholeChapter, VersesPerPage and one verses. Afterwards the cursor stands
@@ -97,8 +98,10 @@ public:
     // Sets the lists from the cursor; the last of them, the verse, acts as if the user had.
     void SyncCombosToCursor();
 
-    // The lists follow the cursor, and none of them acts.
+    // The lists follow the cursor, and none of them acts. selectPlaceInLists leaves it to the list
+    // of books to fill that of the chapters.
     void showPlaceInLists();
+    void selectPlaceInLists();
 
     // Writes the note to the row that it belongs to.
     void WriteNote();
@@ -181,6 +184,9 @@ private:
     void rewind(int shown);
     void showNote();
     void fillNote(const QString& note);
+    void refreshNote();
+    bool isOnAnotherRow() const;
+    QString noteToStore() const;
     void writePendingNote();
     void keepUnsavedNote();
     void markFoundText();
@@ -192,6 +198,7 @@ private:
     void turnChapter(int KeyCode);
     void turnPage(int KeyCode, int multiplier);
     void showPlaceAndPage();
+    bool focusKeeps(int KeyCode) const;
 
     void EndQuery();
     void restoreFocus();
@@ -208,6 +215,8 @@ private:
     qint16 LastSplitWidth = 0;
     std::optional<VerseRow> m_pageTop;
     std::optional<VerseRow> m_noteRow;
+    QVariant m_loadedNote;
     bool m_noteUnsaved = false;
+    bool m_noteWriteFailed = false;
     bool m_fillingNote = false;
 };

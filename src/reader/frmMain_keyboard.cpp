@@ -7,20 +7,29 @@
 #include "core/Settings.h"
 #include "reader/frmMain.h"
 
+#include <QAbstractButton>
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 enum Key {
+    EnterKey = 13,
     ShiftKey = 16,
     CtrlKey = 17,
     AltKey = 18,
+    CapsLock = 20,
+    Space = 32,
     PageUp = 33,
     PageDown = 34,
     Up = 38,
     Down = 40,
+    MetaKey = 91,
     MenuKey = 93,
     F10 = 121,
+    NumLock = 144,
+    ScrollLock = 145,
 };
 constexpr int RightButton = 2;
 
@@ -31,7 +40,9 @@ bool isPageKey(int key) {
 }
 
 bool isModifier(int key) {
-    return key == ShiftKey || key == CtrlKey || key == AltKey;
+    static constexpr Key modifiers[] = {ShiftKey, CtrlKey, AltKey,    MetaKey,
+                                        CapsLock, NumLock, ScrollLock};
+    return std::ranges::find(modifiers, key) != std::end(modifiers);
 }
 
 // What opens the menu of a right click from the keyboard.
@@ -74,7 +85,7 @@ void moveRow(int key) {
 // Modifiers are compared as a whole: two of them together count as none.
 void frmMain::Form_KeyDown(int& KeyCode, int Shift) {
     const bool moves = isPageKey(KeyCode) || isArrowKey(KeyCode);
-    if (isModifier(KeyCode) || opensMenu(KeyCode, Shift) || (txtFind.hasFocus() && !moves))
+    if (isModifier(KeyCode) || opensMenu(KeyCode, Shift) || focusKeeps(KeyCode))
         return;
     if (Shift == Modifier::Ctrl)
         turnBook(KeyCode);
@@ -82,6 +93,20 @@ void frmMain::Form_KeyDown(int& KeyCode, int Shift) {
         turnChapter(KeyCode);
     else if (moves || (Shift & (Modifier::Ctrl | Modifier::Alt)) == 0)
         turnPage(KeyCode, Shift == Modifier::Shift ? 2 : 1);
+}
+
+// What belongs to the control with the focus: the note and the lists keep every key, also after a
+// menu has switched key preview on; a box to type in its letters; a button what presses it; and the
+// tree what leads through it.
+bool frmMain::focusKeeps(int KeyCode) const {
+    const QWidget* focus = focusWidget();
+    if (focus == &txtNote || qobject_cast<const QComboBox*>(focus))
+        return true;
+    if (focus == &txtFind)
+        return !isPageKey(KeyCode) && !isArrowKey(KeyCode);
+    if (focus == &tree)
+        return !isPageKey(KeyCode);
+    return qobject_cast<const QAbstractButton*>(focus) && (KeyCode == Space || KeyCode == EnterKey);
 }
 
 // Books and chapters are turned from the top of the page, which is where the reader is.
@@ -129,7 +154,7 @@ void frmMain::turnPage(int KeyCode, int multiplier) {
 }
 
 void frmMain::showPlaceAndPage() {
-    showPlaceInLists();
+    selectPlaceInLists();
     attempt([this] { UpDateBibleText(true); });
 }
 

@@ -162,6 +162,12 @@ void frmMain::showPlaceInLists() {
     SettingCombos = On;
     attempt([this] { cboBook.setListIndex(toInteger(rsBible.Fields(1).Value()) - 1); });
     attempt([this] { fillChapterList(toInteger(rsBible.Fields(1).Value())); });
+    selectPlaceInLists();
+}
+
+void frmMain::selectPlaceInLists() {
+    SettingCombos = On;
+    attempt([this] { cboBook.setListIndex(toInteger(rsBible.Fields(1).Value()) - 1); });
     attempt([this] { cboChapter.setListIndex(toInteger(rsBible.Fields(2).Value()) - 1); });
     attempt([this] { cboVerse.setListIndex(toInteger(rsBible.Fields(3).Value()) - 1); });
     SettingCombos = Off;

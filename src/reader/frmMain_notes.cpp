@@ -14,13 +14,11 @@ namespace {
 constexpr int NoteField = 5;
 constexpr int SelectAllCharacter = 1; // what Ctrl+A types
 
-bool isStored(const QString& note) {
-    bool stored = false;
-    attempt([&] {
-        const QVariant value = rsBible.Fields(NoteField).Value();
-        stored = !isNull(value) && toText(value) == note;
-    });
-    return stored;
+// Null where the verse never had a note; nothing where the row cannot be read.
+std::optional<QVariant> storedNote() {
+    std::optional<QVariant> note;
+    attempt([&] { note = rsBible.Fields(NoteField).Value(); });
+    return note;
 }
 
 bool store(const QString& note) {
@@ -37,34 +35,57 @@ void frmMain::showNoteHeading() {
     lblCurrentNote.setCaption(u"Your note for: "_s + VerseReference());
 }
 
-// The note of the row now under the cursor. The box is never quite empty.
+// The note of the row now under the cursor. The box is never quite empty, and there is nothing of
+// another verse to be undone in it.
 void frmMain::showNote() {
     keepUnsavedNote();
+    m_loadedNote = storedNote().value_or(QVariant());
     QString note = u" "_s;
     attempt([&] {
-        const QVariant stored = rsBible.Fields(NoteField).Value();
-        if (isNull(stored))
+        if (isNull(m_loadedNote))
             return;
-        note = toText(stored);
+        note = toText(m_loadedNote);
         if (note.size() < 2)
             note += u' ';
     });
     fillNote(note);
+    txtNote.document()->clearUndoRedoStacks();
     m_noteRow = currentVerseRow();
+    m_noteUnsaved = false;
+    m_noteWriteFailed = false;
+}
+
+// The cursor has left the row that filled the pane. A row that cannot be read for a moment is no
+// other row.
+bool frmMain::isOnAnotherRow() const {
+    const std::optional<VerseRow> row = currentVerseRow();
+    return row ? row != m_noteRow : !m_noteRow;
 }
 
 // The pane belongs to the row that filled it: on another row nothing is written, or one verse's
 // note would take the place of another's.
 void frmMain::WriteNote() {
-    const std::optional<VerseRow> row = currentVerseRow();
-    if (!row || row != m_noteRow) {
+    const std::optional<QVariant> stored = storedNote();
+    const bool changedElsewhere = !m_noteUnsaved && stored && *stored != m_loadedNote;
+    if (isOnAnotherRow() || changedElsewhere) {
         showNote();
         return;
     }
     if (Trim(txtNote.Text()).isEmpty())
-        fillNote(Trim(txtNote.Text()) + u' ');
-    const QString note = txtNote.Text();
-    m_noteUnsaved = !isStored(note) && !store(note);
+        fillNote(noteToStore());
+    const QString note = noteToStore();
+    // After a failed write the row shows what was assigned to it, and not what the file holds.
+    if (!m_noteWriteFailed && stored && !isNull(*stored) && stored->toString() == note)
+        m_noteUnsaved = false;
+    else
+        m_noteUnsaved = m_noteWriteFailed = !store(note);
+    if (!m_noteUnsaved)
+        m_loadedNote = note;
+}
+
+// An erased note is one blank.
+QString frmMain::noteToStore() const {
+    return Trim(txtNote.Text()).isEmpty() ? u" "_s : txtNote.Text();
 }
 
 void frmMain::fillNote(const QString& note) {
@@ -79,8 +100,8 @@ void frmMain::keepUnsavedNote() {
     if (!m_noteUnsaved || !m_noteRow)
         return;
     m_noteUnsaved = false;
-    if (!storeNote(*m_noteRow, txtNote.Text()))
-        rescueNote(*m_noteRow, txtNote.Text());
+    if (!storeNote(*m_noteRow, noteToStore()))
+        rescueNote(*m_noteRow, noteToStore());
 }
 
 void frmMain::txtNote_GotFocus() {
@@ -88,7 +109,11 @@ void frmMain::txtNote_GotFocus() {
     MainHasFocus = false;
     NoteHasFocus = true;
     FindHasFocus = false;
-    if (currentVerseRow() != m_noteRow)
+    refreshNote();
+}
+
+void frmMain::refreshNote() {
+    if (isOnAnotherRow())
         showNote();
 }
 

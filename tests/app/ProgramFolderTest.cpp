@@ -57,7 +57,15 @@ TEST_F(ProgramFolder, getsTheWorksThatItLacks) {
 
 TEST_F(ProgramFolder, aCopyCanBeWritten) {
     install(u"KJV.mdb"_s, "a Bible");
-    prepareProgramFolder();
+    bool canRead = false;
+    // An administrator's copies can be written anyway.
+    asPlainUser(Folder::Writable, [&] {
+        canRead = QFile(m_works.filePath(u"KJV.mdb"_s)).open(QIODevice::ReadOnly);
+        prepareProgramFolder();
+    });
+    if (!canRead)
+        GTEST_SKIP() << "this folder is closed to other users";
+    EXPECT_EQ(content(u"KJV.mdb"_s), "a Bible");
     EXPECT_TRUE(QFile::permissions(programFile(u"KJV.mdb"_s)).testFlag(QFileDevice::WriteOwner));
 }
 
@@ -94,7 +102,7 @@ TEST_F(ProgramFolder, withoutInstalledWorksStaysEmpty) {
 
 TEST_F(ProgramFolder, thatCannotBeWrittenIsLeftInSilence) {
     install(u"KJV.mdb"_s, "a Bible");
-    withReadOnlyFolder([] { prepareProgramFolder(); });
+    asPlainUser(Folder::ReadOnly, [] { prepareProgramFolder(); });
 #ifdef Q_OS_UNIX
     EXPECT_EQ(files(), QStringList());
 #endif

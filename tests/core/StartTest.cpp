@@ -107,7 +107,7 @@ TEST_F(Start, aReadOnlyTranslationOpensSinceItsMarkIsCleared) {
 
 TEST_F(Start, aFolderThatCannotBeWrittenIsNoHindrance) {
     addTranslation(u"KJV.mdb"_s, sampleVerses());
-    withReadOnlyFolder([this] {
+    asPlainUser(Folder::ReadOnly, [this] {
 #ifdef Q_OS_UNIX
         EXPECT_FALSE(QFile(programFile(u"new.txt"_s)).open(QIODevice::WriteOnly));
 #endif

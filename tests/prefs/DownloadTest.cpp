@@ -107,3 +107,12 @@ TEST_F(Download, cancelAndEscapeCloseIt) {
     QTest::keyClick(&window().cboDownload, Qt::Key_Escape);
     EXPECT_FALSE(isLoaded<frmDownload>());
 }
+
+TEST_F(Download, goesToTheRowThatIsAskedForWhileItIsOpen) {
+    openOn(3);
+    openOn(4);
+    QEvent activation(QEvent::ActivationChange);
+    window().activateWindow();
+    QApplication::sendEvent(&window(), &activation);
+    EXPECT_EQ(window().cboDownload.ListIndex(), 4);
+}

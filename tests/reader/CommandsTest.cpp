@@ -233,7 +233,13 @@ TEST_F(Commands, aCommandWhoseWindowComesLaterIsSeenAndDisabled) {
         ASSERT_TRUE(button || item) << name.toStdString();
         EXPECT_FALSE(button ? button->isEnabled() : item->isEnabled()) << name.toStdString();
     }
-    EXPECT_TRUE(window().cmdMain(0).isVisible());
+    for (const ToolBarButton& button : toolBarButtons()) {
+        const PictureButton& control = window().cmdMain(button.index);
+        EXPECT_TRUE(control.isVisible()) << button.index;
+        EXPECT_EQ(control.isEnabled(), !comingCommands().contains(control.objectName()));
+    }
+    for (const MenuItem* item : window().findChildren<MenuItem*>())
+        EXPECT_EQ(item->isEnabled(), !comingCommands().contains(item->objectName()));
 }
 
 TEST_F(Commands, aRightClickShowsTheMenuWithTheWordUnderIt) {

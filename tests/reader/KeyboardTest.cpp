@@ -1,5 +1,6 @@
 #include "core/GlobalCode.h"
 #include "core/Settings.h"
+#include "core/frmChangeBible.h"
 #include "reader/frmMain.h"
 #include "support/ProgramFixture.h"
 
@@ -87,17 +88,17 @@ TEST_F(Keyboard, theListsFollowEveryKey) {
     EXPECT_EQ(SettingCombos, Off);
 }
 
-TEST_F(Keyboard, ctrlTurnsBooksFromTheTopOfThePage) {
-    show(40, 2, 3);
-    press(Qt::Key_PageUp, Qt::ControlModifier); // there is no Malachi here
-    show(1, 2, 1);
+TEST_F(Keyboard, ctrlPageUpAtTheFirstBookDrawsAgainAndMovesNothing) {
+    show(1, 2, 3);
+    window().setCaption(u"[before]"_s);
     press(Qt::Key_PageUp, Qt::ControlModifier);
-    EXPECT_EQ(reference(), u"Genesis 2:1"_s); // nothing before Genesis
+    EXPECT_EQ(reference(), u"Genesis 2:3"_s);
     EXPECT_EQ(SettingCombos, Off);
 }
 
 TEST_F(Keyboard, ctrlPageDownAtTheLastBookDrawsAgainAndMovesNothing) {
     show(66, 22, 3);
+    window().setCaption(u"[before]"_s);
     press(Qt::Key_PageDown, Qt::ControlModifier);
     EXPECT_EQ(reference(), u"Revelation 22:3"_s);
 }
@@ -115,6 +116,7 @@ TEST_F(Keyboard, altTurnsChaptersFromTheTopOfThePage) {
 
 TEST_F(Keyboard, altPageDownAtTheLastChapterLeavesTheBook) {
     show(66, 22, 1);
+    window().setCaption(u"[before]"_s);
     press(Qt::Key_PageDown, Qt::AltModifier);
     EXPECT_EQ(reference(), u"Revelation 22:1"_s);
 }
@@ -139,7 +141,9 @@ TEST_F(Keyboard, twoModifiersTogetherCountAsNone) {
 
 TEST_F(Keyboard, aModifierAloneDoesNothing) {
     const QString place = position();
-    for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt})
+    for (const Qt::Key key :
+         {Qt::Key_Shift, Qt::Key_Control, Qt::Key_Alt, Qt::Key_Meta, Qt::Key_CapsLock,
+          Qt::Key_NumLock, Qt::Key_ScrollLock})
         press(key);
     EXPECT_EQ(position(), place);
     EXPECT_EQ(reference(), u"Matthew 1:1"_s);
@@ -238,4 +242,29 @@ TEST_F(Keyboard, keysInAQueryWalkTheResult) {
     press(Qt::Key_PageDown);
     EXPECT_EQ(reference(), u"Genesis 2:12"_s); // ten matches behind the second
     InQuery = Off;
+}
+
+TEST_F(Keyboard, theMenuBarGoesThroughItsMenus) {
+    window().mnuMain.setFocus();
+    window().setCaption(u"[before]"_s);
+    QTest::keyClick(&window().mnuMain, Qt::Key_Right);
+    EXPECT_EQ(reference(), u"before"_s);
+}
+
+TEST_F(Keyboard, aButtonWithTheFocusIsPressed) {
+    window().cmdMain(16).SetFocus();
+    window().setCaption(u"[before]"_s);
+    press(Qt::Key_Space);
+    EXPECT_EQ(reference(), u"before"_s);
+    EXPECT_TRUE(isLoaded<frmChangeBible>());
+}
+
+TEST_F(Keyboard, theTreeKeepsItsKeysButForPages) {
+    window().tree.SetFocus();
+    window().setCaption(u"[before]"_s);
+    press(Qt::Key_Right);
+    EXPECT_EQ(reference(), u"before"_s);
+    EXPECT_TRUE(window().tree.hasFocus());
+    press(Qt::Key_PageDown);
+    EXPECT_EQ(reference(), u"Matthew 2:1"_s);
 }

@@ -1,57 +1,8 @@
-#include "core/GlobalCode.h"
-#include "core/Settings.h"
-#include "reader/frmMain.h"
-#include "settings/SettingsStore.h"
-#include "store/StoreTuning.h"
-#include "support/OtherProgram.h"
-#include "support/ProgramFixture.h"
+// What the note pane does with keys and texts.
+#include "reader/NotesFixture.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QFile>
-#include <QTest>
-
-using namespace Qt::StringLiterals;
-
-namespace {
-
-class Notes : public ProgramFixture {
-protected:
-    void SetUp() override {
-        // So that the cursor stands on Matthew 1:1 behind its page.
-        SaveSetting(ApplicationName, SettingsSection, u"VersesPerPage"_s, u"24"_s);
-        startProgram();
-        QCoreApplication::processEvents();
-        note().SetFocus();
-    }
-
-    static frmMain& window() { return form<frmMain>(); }
-    static MultilineTextBox& note() { return window().txtNote; }
-
-    static void type(const QString& text) { QTest::keyClicks(&note(), text); }
-
-    static void selectAll() { QTest::keyClick(&note(), Qt::Key_A, Qt::ControlModifier); }
-
-    // The note of a verse as it is in the file.
-    static QVariant stored(int book = 40, int chapter = 1, int verse = 1) {
-        Recordset rows = dbBible.OpenRecordset(u"tblMain"_s, dbOpenTable);
-        rows.Index(u"VerseIndex"_s);
-        rows.Seek(u"="_s, book, chapter, verse);
-        return rows.Fields(5).Value();
-    }
-
-    static void show(int book, int chapter, int verse) {
-        rsBible.Seek(u"="_s, book, chapter, verse);
-        window().UpDateBibleText(true);
-    }
-
-    QString rescued() const {
-        QFile file(programFile(u"unsaved notes.txt"_s));
-        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-    }
-};
-
-} // namespace
 
 TEST_F(Notes, areWrittenOnEachReleaseOfAKey) {
     ASSERT_EQ(position(), u"40:1:1"_s);
@@ -179,58 +130,6 @@ TEST_F(Notes, followTheCursorOfAQuery) {
     InQuery = Off;
     const QStringList parts = place.split(u':');
     EXPECT_EQ(stored(parts[0].toInt(), parts[1].toInt(), parts[2].toInt()), u"hit "_s);
-}
-
-TEST_F(Notes, ofAReadOnlyFileAreRescuedInSilence) {
-    QFile::setPermissions(programFile(u"KJV.mdb"_s), QFileDevice::ReadOwner);
-    wsBible = DBEngine::CreateWorkspace(u"Bible"_s, u"Admin"_s, {});
-    dbBible = wsBible.OpenDatabase(programFile(u"KJV.mdb"_s), OpenMode::ReadOnly);
-    rsBible = dbBible.OpenRecordset(u"tblMain"_s, dbOpenTable);
-    rsBible.Index(u"VerseIndex"_s);
-    show(40, 1, 1);
-    type(u"no place for me"_s);
-    EXPECT_EQ(rescued(), QString());
-    EXPECT_EQ(note().Text(), u"no place for me "_s);
-    show(40, 2, 1);
-    EXPECT_TRUE(rescued().contains(u"Matthew 1:1\nno place for me \n"_s))
-        << rescued().toStdString();
-    EXPECT_TRUE(stored().isNull());
-}
-
-TEST_F(Notes, ofAFileThatIsGoneAreRescued) {
-    type(u"a"_s);
-    ASSERT_TRUE(QFile::remove(programFile(u"KJV.mdb"_s)));
-    type(u"b"_s);
-    show(40, 2, 1);
-    EXPECT_TRUE(rescued().contains(u"Matthew 1:1\nab \n"_s)) << rescued().toStdString();
-}
-
-TEST_F(Notes, ofAFileThatIsReplacedAreRescued) {
-    type(u"a"_s);
-    addTranslation(u"KJV.mdb"_s, sampleVerses());
-    type(u"b"_s);
-    show(40, 2, 1);
-    EXPECT_TRUE(rescued().contains(u"Matthew 1:1\nab \n"_s)) << rescued().toStdString();
-}
-
-class LockedNotes : public Notes {
-protected:
-    LockedNotes() { storeTuning().busyTimeout = std::chrono::milliseconds(20); }
-    ~LockedNotes() override { storeTuning() = {}; }
-};
-
-TEST_F(LockedNotes, areWrittenWithTheNextKeyThatCan) {
-    {
-        OtherProgram holder(
-            QStringLiteral(LUMENVIA_STORE_HELPER), {u"lock"_s, programFile(u"KJV.mdb"_s)});
-        ASSERT_EQ(holder.readLine(), u"locked"_s);
-        type(u"ab"_s);
-        EXPECT_EQ(note().Text(), u"ab "_s);
-    }
-    EXPECT_TRUE(stored().isNull());
-    type(u"c"_s);
-    EXPECT_EQ(stored(), u"abc "_s);
-    EXPECT_TRUE(rescued().isEmpty());
 }
 
 TEST_F(Notes, showTheirVerseAboveThem) {

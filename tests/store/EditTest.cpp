@@ -132,6 +132,20 @@ TEST_F(Edit, withoutUpdateIsDroppedByEveryMove) {
     }
 }
 
+TEST_F(Edit, withoutUpdateIsDroppedBySeekAndIndexToo) {
+    Recordset cursor = openByVerse();
+    const std::vector<std::function<void()>> jumps = {
+        [&] { cursor.Seek(u"="_s, 1, 1, 1); }, [&] { cursor.Index(u"VerseIndex"_s); },
+        [&] { cursor.MoveLast(); }, [&] { cursor.Seek(u"="_s, 9, 9, 9); }};
+    for (const auto& jump : jumps) {
+        cursor.Edit();
+        cursor.Fields(4) = u"dropped"_s;
+        jump();
+        EXPECT_EQ(errorOf([&] { cursor.Update(); }), Error::UpdateWithoutEdit);
+    }
+    EXPECT_EQ(openByVerse().Fields(4).Value(), QVariant(u"one"_s));
+}
+
 TEST_F(Edit, anotherEditDropsWhatTheFirstAssigned) {
     Recordset cursor = openByVerse();
     cursor.Edit();

@@ -232,7 +232,7 @@ protected:
 };
 
 TEST_P(Model, cursorsDoWhatPlainContainersDo) {
-    for (int step = 0; step < 25000; ++step) {
+    for (int step = 0; step < 10000; ++step) {
         Pair& pair = m_pairs[m_random() % 2];
         act(pair);
         if (below(3) != 0) // not always, so that a cursor also meets several changes at once

@@ -21,26 +21,36 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Lays down the rights of an administrator, whom no permission stops, for as long as it lives.
+// Lays down the rights of an administrator for as long as it lives.
 class PlainUser {
 public:
 #ifdef Q_OS_UNIX
     PlainUser() {
-        if (getuid() == 0) {
-            constexpr uid_t Nobody = 65534;
-            EXPECT_EQ(setegid(Nobody), 0);
-            EXPECT_EQ(seteuid(Nobody), 0);
-        }
+        if (!m_isAdministrator)
+            return;
+        constexpr uid_t Nobody = 65534;
+        EXPECT_EQ(setregid(Nobody, Nobody), 0);
+        EXPECT_EQ(setreuid(Nobody, 0), 0); // keeps the way back
+        EXPECT_EQ(seteuid(Nobody), 0);
     }
     ~PlainUser() {
-        EXPECT_EQ(seteuid(getuid()), 0);
-        EXPECT_EQ(setegid(getgid()), 0);
+        if (!m_isAdministrator)
+            return;
+        EXPECT_EQ(seteuid(0), 0);
+        EXPECT_EQ(setreuid(0, 0), 0);
+        EXPECT_EQ(setregid(m_group, m_group), 0);
     }
 #else
     PlainUser() = default;
     ~PlainUser() = default;
 #endif
     Q_DISABLE_COPY_MOVE(PlainUser)
+
+private:
+#ifdef Q_OS_UNIX
+    bool m_isAdministrator = geteuid() == 0;
+    gid_t m_group = getgid();
+#endif
 };
 
 } // namespace
@@ -129,11 +139,14 @@ void ProgramFixture::restartProgram() {
     Main();
 }
 
-void ProgramFixture::withReadOnlyFolder(const std::function<void()>& action) {
-    constexpr QFileDevice::Permissions Readable = QFileDevice::ReadOwner | QFileDevice::ExeOwner
-                                                  | QFileDevice::ReadOther | QFileDevice::ExeOther;
+void ProgramFixture::asPlainUser(Folder folder, const std::function<void()>& action) {
+    using enum QFileDevice::Permission;
+    QFileDevice::Permissions allowed =
+        ReadOwner | ExeOwner | ReadGroup | ExeGroup | ReadOther | ExeOther;
+    if (folder == Folder::Writable)
+        allowed |= WriteOwner | WriteGroup | WriteOther;
     const QFileDevice::Permissions before = QFile::permissions(m_home.path());
-    ASSERT_TRUE(QFile::setPermissions(m_home.path(), Readable));
+    ASSERT_TRUE(QFile::setPermissions(m_home.path(), allowed));
     {
         const PlainUser user;
         action();

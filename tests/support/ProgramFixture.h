@@ -45,8 +45,10 @@ protected:
     // store hold, and nothing else.
     void restartProgram();
 
-    // Runs the action as a user who can read the program's folder and write nothing in it.
-    void withReadOnlyFolder(const std::function<void()>& action);
+    // Runs the action as a user without the rights of an administrator, whom no permission stops.
+    // He can read the program's folder, and write in it or not.
+    enum class Folder { Writable, ReadOnly };
+    void asPlainUser(Folder folder, const std::function<void()>& action);
 
     // What the settings file of an application holds on disk.
     QString settingsText(const QString& application) const;

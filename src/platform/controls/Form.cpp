@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QMenuBar>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
@@ -22,7 +23,7 @@ public:
         if ((!pressed && event->type() != QEvent::ShortcutOverride) || !watched->isWidgetType())
             return false;
         auto* form = qobject_cast<Form*>(static_cast<QWidget*>(watched)->window());
-        if (!form)
+        if (!form || qobject_cast<QMenuBar*>(watched)) // a menu bar goes through its menus
             return false;
         auto& key = static_cast<QKeyEvent&>(*event);
         if (!pressed)

@@ -12,6 +12,10 @@ MultilineTextBox::MultilineTextBox(QWidget* parent, const ControlText& text)
     connect(this, &QPlainTextEdit::textChanged, this, [this] { Change.raise(); });
 }
 
+QString MultilineTextBox::Text() const {
+    return document()->toRawText().replace(QChar::ParagraphSeparator, u'\n');
+}
+
 void MultilineTextBox::setText(const QString& text) {
     if (text != Text())
         setPlainText(text);

@@ -26,8 +26,8 @@ public:
 
     MultilineTextBox(QWidget* parent, const ControlText& text);
 
-    // Lines end in "\n".
-    QString Text() const { return toPlainText(); }
+    // Every character as it was set or typed; lines end in "\n".
+    QString Text() const;
 
     // Replaces the text, with nothing left to undo; the caret goes to its start.
     void setText(const QString& text);

@@ -10,7 +10,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // A cursor that steps reads few rows ahead at first, and more as it goes on.
-constexpr size_t FirstReadAhead = 16;
+constexpr size_t FirstReadAhead = 4;
+constexpr size_t ReadAheadGrowth = 4;
 constexpr size_t LargestReadAhead = 256;
 constexpr size_t LargestWindow = 512;
 constexpr size_t LargestWindowBytes = size_t(1024) * 1024;
@@ -161,7 +162,8 @@ void RowWalk::refreshCurrent() {
 
 size_t RowWalk::nextReadAhead(Direction direction) {
     const bool goesOn = direction == m_direction && m_readAhead > 0;
-    m_readAhead = goesOn ? std::min(2 * m_readAhead, LargestReadAhead) : FirstReadAhead;
+    m_readAhead =
+        goesOn ? std::min(ReadAheadGrowth * m_readAhead, LargestReadAhead) : FirstReadAhead;
     m_direction = direction;
     return m_readAhead;
 }
