@@ -95,17 +95,14 @@ void frmMain::Form_KeyDown(int& KeyCode, int Shift) {
         turnPage(KeyCode, Shift == Modifier::Shift ? 2 : 1);
 }
 
-// What belongs to the control with the focus: the note and the lists keep every key, also after a
-// menu has switched key preview on; a box to type in its letters; a button what presses it; and the
-// tree what leads through it.
+// What belongs to the control with the focus: the note, the lists and the tree keep every key, also
+// after a menu has switched key preview on; a box to type in its letters; a button what presses it.
 bool frmMain::focusKeeps(int KeyCode) const {
     const QWidget* focus = focusWidget();
-    if (focus == &txtNote || qobject_cast<const QComboBox*>(focus))
+    if (focus == &txtNote || focus == &tree || qobject_cast<const QComboBox*>(focus))
         return true;
     if (focus == &txtFind)
         return !isPageKey(KeyCode) && !isArrowKey(KeyCode);
-    if (focus == &tree)
-        return !isPageKey(KeyCode);
     return qobject_cast<const QAbstractButton*>(focus) && (KeyCode == Space || KeyCode == EnterKey);
 }
 

@@ -110,9 +110,9 @@ TEST_F(Download, cancelAndEscapeCloseIt) {
 
 TEST_F(Download, goesToTheRowThatIsAskedForWhileItIsOpen) {
     openOn(3);
+    QCoreApplication::processEvents();
     openOn(4);
     QEvent activation(QEvent::ActivationChange);
-    window().activateWindow();
     QApplication::sendEvent(&window(), &activation);
     EXPECT_EQ(window().cboDownload.ListIndex(), 4);
 }

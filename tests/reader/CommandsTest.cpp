@@ -227,6 +227,7 @@ TEST_F(Commands, exitUnloadsTheWindowAndEndsTheProgram) {
 }
 
 TEST_F(Commands, aCommandWhoseWindowComesLaterIsSeenAndDisabled) {
+    window().txtFind.SetFocus(); // where text can be cut and pasted
     for (const QString& name : comingCommands()) {
         auto* button = window().findChild<QWidget*>(name);
         auto* item = window().findChild<MenuItem*>(name);
