@@ -36,6 +36,17 @@ int DownloadItem = 0;
 std::array<QString, QueryWordCount> QueryWords;
 std::array<QString, QueryWordCount> QueryHistory;
 std::array<QString, QueryWordCount - 1> QueryOperators;
+QString QuerySQL;
+bool OldQueryBoth = false;
+int OldQueryBook = 0;
+int OldQueryScope = 0;
+bool OldQueryWhole = false;
+qint16 QueryCancelled = 0;
+std::array<QString, 2> OldSearchWords;
+int OldSearchBook = 0;
+int OldSearchTestament = 0;
+bool OldSearchWholeWord = false;
+bool OldSearchBoth = false;
 std::array<QString, 101> TempFiles;
 
 namespace {
@@ -97,6 +108,17 @@ void InitGlobals() {
     IndexText = u"31222"_s;
     QueryWords.fill({});
     QueryHistory.fill({});
+    QuerySQL.clear();
+    OldQueryBoth = false;
+    OldQueryBook = 0;
+    OldQueryScope = 0;
+    OldQueryWhole = false;
+    QueryCancelled = 0;
+    OldSearchWords.fill({});
+    OldSearchBook = 0;
+    OldSearchTestament = 0;
+    OldSearchWholeWord = false;
+    OldSearchBoth = false;
     QueryOperators.fill(u"OR"_s);
     fillCatalogue();
     TipsRequested = Off;

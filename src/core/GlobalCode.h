@@ -40,6 +40,21 @@ extern std::array<QString, QueryWordCount> QueryWords;
 extern std::array<QString, QueryWordCount> QueryHistory; // as last typed
 extern std::array<QString, QueryWordCount - 1> QueryOperators;
 
+// The SELECT text of the current query, and the rest of the form as last used.
+extern QString QuerySQL;
+extern bool OldQueryBoth;
+extern int OldQueryBook;
+extern int OldQueryScope;
+extern bool OldQueryWhole;
+extern qint16 QueryCancelled; // 999 once a query was cancelled
+
+// What the advanced search last held.
+extern std::array<QString, 2> OldSearchWords;
+extern int OldSearchBook;
+extern int OldSearchTestament;
+extern bool OldSearchWholeWord;
+extern bool OldSearchBoth;
+
 // Temporary output files, deleted when the main window unloads. Entry 0 is not used.
 extern std::array<QString, 101> TempFiles;
 

@@ -18,7 +18,8 @@ namespace {
 constexpr int CharactersInLine = 60;
 constexpr int BiblesInColumn = CatalogueSize / 2;
 
-const std::array<QString, 4> informationHeadings = {
+constexpr int InformationCount = 4;
+const std::array<QString, InformationCount> informationHeadings = {
     u"Description:"_s, u"Filename:"_s, u"Installed:"_s, u"Download:"_s};
 
 enum Information { DescriptionOfBible, FileOfBible, WhetherInstalled, PageOfBible };
@@ -55,7 +56,7 @@ ControlArray<OptionButton> frmChangeBible::makeBibles() {
 ControlArray<Label> frmChangeBible::makeInformation() {
     ControlArray<Label> labels;
     auto* rows = new QFormLayout(&famDesscribe);
-    for (int row = 0; row < static_cast<int>(informationHeadings.size()); ++row) {
+    for (int row = 0; row < InformationCount; ++row) {
         const QString name = nameOf(u"lblbibleinfo"_s, row);
         Label& label = labels.add(row, std::make_unique<Label>(&famDesscribe, ControlText{name}));
         label.setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -87,7 +88,7 @@ void frmChangeBible::Form_Load() {
     SetupScreen();
 }
 
-void frmChangeBible::SetupScreen() {
+void frmChangeBible::SetupScreen() const {
     for (int row = 0; row < CatalogueSize; ++row)
         OptBible(row).setCaption(BibleLongName[static_cast<size_t>(row)]);
     OptBible(CurrentBible).setValue(true);

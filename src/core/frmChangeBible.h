@@ -25,7 +25,7 @@ public:
     CommandButton cmdCancel{this, {u"cmdCancel", u"&Cancel", u"Close without changing"}};
 
     // Shows the catalogue with the open translation selected.
-    void SetupScreen();
+    void SetupScreen() const;
 
     void OptBible_Click(int Index);
     void cmdOk_Click();

@@ -6,7 +6,7 @@
 #include "prefs/Internet.h"
 #include "settings/SettingsStore.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QPagedPaintDevice>
 #include <QScreen>
 #include <QStyle>

@@ -141,12 +141,6 @@ const MenuTable& popupMenu() {
 
 const QStringList& comingCommands() {
     static const QStringList names = {
-        // searches
-        u"cmdMain(7)"_s, u"cmdMain(8)"_s, u"mnuSearch(3)"_s,
-        u"cmdMain(4)"_s, u"mnuSearch(4)"_s, u"mnutext(7)"_s,
-        u"cmdMain(5)"_s, u"mnuSearch(0)"_s, u"mnutext(5)"_s,
-        u"cmdMain(10)"_s, u"mnuTool(1)"_s,
-        u"cmdMain(3)"_s, u"mnuSearch(6)"_s, u"mnutext(8)"_s,
         // study
         u"cmdMain(2)"_s, u"mnuTool(6)"_s,
         u"cmdMain(11)"_s, u"mnuTool(7)"_s,

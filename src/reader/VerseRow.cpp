@@ -1,5 +1,6 @@
 #include "reader/VerseRow.h"
 
+#include "basic/Conversion.h"
 #include "basic/Error.h"
 #include "core/GlobalCode.h"
 
@@ -22,4 +23,8 @@ bool seekVerseRow(const VerseRow& row) {
         found = !rsBible.NoMatch();
     });
     return found;
+}
+
+void findVerseRow(const VerseRow& row) {
+    attempt([&] { rsBible.FindFirst(u"ID = "_s + toText(row.id)); });
 }

@@ -19,3 +19,6 @@ std::optional<VerseRow> currentVerseRow();
 // Stands the cursor on a verse by its address; says whether it is there. The cursor of a query is
 // left alone.
 bool seekVerseRow(const VerseRow& row);
+
+// Stands a dynaset back on a row by its number, where it can be found.
+void findVerseRow(const VerseRow& row);

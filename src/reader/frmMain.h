@@ -1,7 +1,7 @@
 // The main window: the page of verses, the tree and the lists that lead to it, the note of the
 // current verse, and the commands of the whole program. One class over several files by duty:
 // construction, load and unload in frmMain.cpp, and by their names frmMain_page, _navigation,
-// _keyboard, _notes, _layout, _menus and _commands.
+// _keyboard, _notes, _findbar, _layout, _menus and _commands.
 #pragma once
 
 #include "controls/ComboBox.h"
@@ -90,10 +90,15 @@ public:
     // "Your note for: " and the reference of the cursor, above the note.
     void showNoteHeading();
 
+    // Fills the note pane from the row under the cursor, to which it belongs from then on.
+    void showNote();
+
     // Fills the lists that lead through the text.
     void Screensetup();
     void fillBookList();
     void fillChapterList(int book);
+
+    void enableLists(bool enabled);
 
     // Sets the lists from the cursor; the last of them, the verse, acts as if the user had.
     void SyncCombosToCursor();
@@ -103,11 +108,23 @@ public:
     void showPlaceInLists();
     void selectPlaceInLists();
 
+    // The same under the flags as they are.
+    void setListsToCursor();
+
     // Writes the note to the row that it belongs to.
     void WriteNote();
 
     // The layout rule: both splitters keep their share.
     void Resize();
+
+    // One step of the find bar from the verse under the cursor on: the next or previous verse that
+    // holds the text of txtFind becomes the reading position. Without one the user is told, and
+    // everything stays.
+    void findnextbutton();
+    void FindPreviousButton();
+
+    // A hook of the find bar.
+    void HighlightFindButton() {}
 
     // Rebuilds the bookmark items and keeps the bookmarks.
     void CreateMenu();
@@ -180,9 +197,7 @@ private:
     PictureButton* makeButton(const ToolBarButton& button, QWidget* group);
 
     void ColorText();
-    void colorWord(const QString& word);
     void rewind(int shown);
-    void showNote();
     void fillNote(const QString& note);
     void refreshNote();
     bool isOnAnotherRow() const;
@@ -191,6 +206,7 @@ private:
     void keepUnsavedNote();
     void markFoundText();
 
+    void selectPlace();
     void showHint(const QString& hint);
     void seekVerseDownward(int book, int chapter, int verse);
     void seekTestament(int testament);
@@ -200,10 +216,11 @@ private:
     void showPlaceAndPage();
     bool focusKeeps(int KeyCode) const;
 
+    void findFromCursor(bool forward);
+
     void EndQuery();
     void restoreFocus();
     void sendToTextBox(Qt::Key key);
-    void enableLists(bool enabled);
     void openInstead(const QString& path);
     void selectAll();
     void copyFromPage();

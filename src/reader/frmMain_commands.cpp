@@ -13,14 +13,37 @@
 #include "prefs/Internet.h"
 #include "prefs/frmDownload.h"
 #include "reader/frmMain.h"
+#include "search/frmHolyTextFind.h"
+#include "search/frmIndex.h"
+#include "search/frmNoteSearch.h"
+#include "search/frmQuery.h"
 
 using namespace Qt::StringLiterals;
 
 void frmMain::cmdMain_Click(int Index) {
     showNormalPointer();
     switch (Index) {
+    case 3:
+        form<frmNoteSearch>().ShowModal();
+        break;
+    case 4:
+        cmdMain(6).setValue(true);
+        form<frmHolyTextFind>().ShowModal();
+        break;
+    case 5:
+        form<frmQuery>().ShowModal();
+        break;
     case 6:
         EndQuery();
+        break;
+    case 7:
+        FindPreviousButton();
+        break;
+    case 8:
+        findnextbutton();
+        break;
+    case 10:
+        form<frmIndex>().Show();
         break;
     case 13:
         sendToTextBox(Qt::Key_X);

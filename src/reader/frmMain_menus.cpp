@@ -11,6 +11,11 @@
 #include "prefs/frmDownload.h"
 #include "reader/MainCommands.h"
 #include "reader/frmMain.h"
+#include "search/frmHolyTextFind.h"
+#include "search/frmIndex.h"
+#include "search/frmNoteSearch.h"
+#include "search/frmQuery.h"
+#include "search/frmSimpleFind.h"
 
 using namespace Qt::StringLiterals;
 
@@ -99,11 +104,30 @@ void frmMain::mnuEdit_Click(int Index) {
 }
 
 void frmMain::mnuSearch_Click(int Index) {
-    if (Index == 1)
+    switch (Index) {
+    case 0:
+        cmdMain(5).setValue(true);
+        break;
+    case 1:
         cmdMain(6).setValue(true);
+        break;
+    case 3:
+        form<frmSimpleFind>().ShowModal();
+        break;
+    case 4:
+        form<frmHolyTextFind>().ShowModal();
+        break;
+    case 6:
+        cmdMain(3).setValue(true);
+        break;
+    default:
+        break;
+    }
 }
 
-void frmMain::mnuTool_Click(int /*Index*/) {
+void frmMain::mnuTool_Click(int Index) {
+    if (Index == 1)
+        form<frmIndex>().Show();
     showNormalPointer();
 }
 
@@ -169,6 +193,12 @@ void frmMain::showHelpContents() {
 void frmMain::mnuText_Click(int Index) {
     if (Index == 1 && MainHasFocus)
         copyFromPage();
+    else if (Index == 5)
+        form<frmQuery>().ShowModal();
+    else if (Index == 7)
+        form<frmHolyTextFind>().ShowModal();
+    else if (Index == 8)
+        form<frmNoteSearch>().ShowModal();
 }
 
 void frmMain::CreateMenu() {

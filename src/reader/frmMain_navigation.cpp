@@ -160,17 +160,26 @@ void frmMain::SyncCombosToCursor() {
 
 void frmMain::showPlaceInLists() {
     SettingCombos = On;
-    attempt([this] { cboBook.setListIndex(toInteger(rsBible.Fields(1).Value()) - 1); });
-    attempt([this] { fillChapterList(toInteger(rsBible.Fields(1).Value())); });
-    selectPlaceInLists();
+    setListsToCursor();
+    SettingCombos = Off;
 }
 
 void frmMain::selectPlaceInLists() {
     SettingCombos = On;
+    selectPlace();
+    SettingCombos = Off;
+}
+
+void frmMain::setListsToCursor() {
+    attempt([this] { cboBook.setListIndex(toInteger(rsBible.Fields(1).Value()) - 1); });
+    attempt([this] { fillChapterList(toInteger(rsBible.Fields(1).Value())); });
+    selectPlace();
+}
+
+void frmMain::selectPlace() {
     attempt([this] { cboBook.setListIndex(toInteger(rsBible.Fields(1).Value()) - 1); });
     attempt([this] { cboChapter.setListIndex(toInteger(rsBible.Fields(2).Value()) - 1); });
     attempt([this] { cboVerse.setListIndex(toInteger(rsBible.Fields(3).Value()) - 1); });
-    SettingCombos = Off;
 }
 
 // While a list has the focus, the title says what it is for, and it keeps its own arrow keys.

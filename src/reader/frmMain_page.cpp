@@ -6,6 +6,7 @@
 #include "reader/PageComposer.h"
 #include "reader/frmMain.h"
 #include "richtext/FontFamilies.h"
+#include "search/HitMarks.h"
 
 using namespace Qt::StringLiterals;
 
@@ -59,7 +60,7 @@ void frmMain::rewind(int shown) {
     }
     for (int step = 0; step < shown - 1; ++step)
         attempt([] { rsBible.MovePrevious(); });
-    // A page of one hit, the last: its note needs a row.
+    // A page of the last hit alone would leave no row, and none for a note.
     if (isBehindLastRow())
         attempt([] { rsBible.MoveLast(); });
 }
@@ -79,30 +80,9 @@ void frmMain::ColorText() {
     if (InQuery == Off)
         return;
     showHourglass();
-    // Hidden, the page is not painted after each mark.
-    txtMain.setVisible(false);
-    for (size_t word = 0; word < 2; ++word) {
-        if (!QueryWords[word].isEmpty())
-            attempt([&] { colorWord(QueryWords[word]); });
-    }
-    txtMain.setVisible(true);
+    attempt([this] { markHits(txtMain, {QueryWords[0], QueryWords[1]}); });
     showNormalPointer();
     txtMain.SetFocus();
-    txtMain.setSelStart(1);
-    txtMain.setSelLength(1);
-    txtMain.setSelLength(0);
-}
-
-void frmMain::colorWord(const QString& word) {
-    const int end = static_cast<int>(txtMain.Text().size());
-    int start = 1;
-    for (int place; (place = txtMain.Find(word, start, end, 0)) != -1;) {
-        txtMain.setSelColor(MarkColor);
-        txtMain.setSelBold(true);
-        txtMain.setSelUnderline(true);
-        start = place + static_cast<int>(word.size());
-        txtMain.setSelLength(0);
-    }
 }
 
 void frmMain::FormatText() {

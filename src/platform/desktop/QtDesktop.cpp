@@ -66,7 +66,7 @@ Answer QtDesktop::showMessage(const Message& message) {
     box.setIcon(iconOf(message.icon));
     box.setWindowTitle(message.title);
     box.setTextFormat(Qt::PlainText);
-    box.setText(QString(message.text).replace(u"\r\n"_s, u"\n"_s));
+    box.setText(QString(message.text).remove(u'\r'));
     box.setStandardButtons(
         message.buttons == MessageButtons::YesNo ? QMessageBox::Yes | QMessageBox::No
                                                  : QMessageBox::Ok);
