@@ -18,26 +18,26 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-int run(QApplication& application) {
+int run() {
     prepareProgramFolder();
     resetSettings();
     runHandler(Main);
     if (programHasEnded())
         return 1;
-    return endsWithFirstPage() ? finishFirstPage(form<frmMain>()) : application.exec();
+    return endsWithFirstPage() ? finishFirstPage(form<frmMain>()) : QApplication::exec();
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
+    const QApplication application(argc, argv);
     QApplication::setApplicationName(u"lumenvia"_s);
     QApplication::setDesktopFileName(u"lumenvia"_s);
     QApplication::setWindowIcon(QIcon(u":/icons/lumenvia.svg"_s));
     const std::unique_ptr<QtDesktop> realDesktop =
         endsWithFirstPage() ? std::make_unique<UnattendedDesktop>() : std::make_unique<QtDesktop>();
     setDesktop(realDesktop.get());
-    const int code = run(application);
+    const int code = run();
     forms::discardAll();
     flushSettings();
     return code;

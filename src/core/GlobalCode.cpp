@@ -126,7 +126,7 @@ void InitGlobals() {
 
 QString FindDataFile(const QString& name) {
     for (const QString& place : dataFilePlaces()) {
-        const QString path = place + name;
+        QString path = place + name;
         if (!FileExists(path))
             continue;
         attempt([&] {

@@ -160,7 +160,7 @@ public:
     void mnuMain_Click();
     void mnuFile_Click(int Index);
     void mnuEdit_Click(int Index);
-    void mnuSearch_Click(int Index);
+    void mnuSearch_Click(int Index) const;
     void mnuTool_Click(int Index);
     void mnuBible_Click(int Index);
     void mnuBookmark_Click(int Index);
@@ -219,6 +219,7 @@ private:
     void findFromCursor(bool forward);
 
     void EndQuery();
+    void searchText();
     void restoreFocus();
     void sendToTextBox(Qt::Key key);
     void openInstead(const QString& path);

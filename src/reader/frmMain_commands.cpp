@@ -18,52 +18,37 @@
 #include "search/frmNoteSearch.h"
 #include "search/frmQuery.h"
 
+#include <map>
+
 using namespace Qt::StringLiterals;
 
+// What the buttons do whose windows are there; the others are disabled.
 void frmMain::cmdMain_Click(int Index) {
+    using Command = void (*)(frmMain&);
+    static const std::map<int, Command> commands = {
+        {3, [](frmMain&) { form<frmNoteSearch>().ShowModal(); }},
+        {4, [](frmMain& main) { main.searchText(); }},
+        {5, [](frmMain&) { form<frmQuery>().ShowModal(); }},
+        {6, [](frmMain& main) { main.EndQuery(); }},
+        {7, [](frmMain& main) { main.FindPreviousButton(); }},
+        {8, [](frmMain& main) { main.findnextbutton(); }},
+        {10, [](frmMain&) { form<frmIndex>().Show(); }},
+        {13, [](frmMain& main) { main.sendToTextBox(Qt::Key_X); }},
+        {14, [](frmMain& main) { main.sendToTextBox(Qt::Key_C); }},
+        {15, [](frmMain& main) { main.sendToTextBox(Qt::Key_V); }},
+        {16, [](frmMain&) { form<frmChangeBible>().Show(); }},
+        {22, [](frmMain& main) { EmailText(main.txtMain.Text()); }},
+    };
     showNormalPointer();
-    switch (Index) {
-    case 3:
-        form<frmNoteSearch>().ShowModal();
-        break;
-    case 4:
-        cmdMain(6).setValue(true);
-        form<frmHolyTextFind>().ShowModal();
-        break;
-    case 5:
-        form<frmQuery>().ShowModal();
-        break;
-    case 6:
-        EndQuery();
-        break;
-    case 7:
-        FindPreviousButton();
-        break;
-    case 8:
-        findnextbutton();
-        break;
-    case 10:
-        form<frmIndex>().Show();
-        break;
-    case 13:
-        sendToTextBox(Qt::Key_X);
-        break;
-    case 14:
-        sendToTextBox(Qt::Key_C);
-        break;
-    case 15:
-        sendToTextBox(Qt::Key_V);
-        break;
-    case 16:
-        form<frmChangeBible>().Show();
-        break;
-    case 22:
-        EmailText(txtMain.Text());
-        break;
-    default:
-        break;
-    }
+    const auto command = commands.find(Index);
+    if (command != commands.end())
+        command->second(*this);
     showNormalPointer();
+}
+
+void frmMain::searchText() {
+    cmdMain(6).setValue(true);
+    form<frmHolyTextFind>().ShowModal();
 }
 
 // While the mouse is on a button, the title says what it does.

@@ -103,7 +103,7 @@ void frmMain::mnuEdit_Click(int Index) {
     }
 }
 
-void frmMain::mnuSearch_Click(int Index) {
+void frmMain::mnuSearch_Click(int Index) const {
     switch (Index) {
     case 0:
         cmdMain(5).setValue(true);

@@ -56,7 +56,7 @@ void frmHolyTextFind::restoreOldSearch() {
     optAndOr(0).setValue(OldSearchBoth);
 }
 
-void frmHolyTextFind::RememberOldSearch() {
+void frmHolyTextFind::RememberOldSearch() const {
     for (int word = 0; word < 2; ++word)
         OldSearchWords[static_cast<size_t>(word)] = txtFind(word).Text();
     OldSearchBook = cboBook.ListIndex();
@@ -105,7 +105,8 @@ void frmHolyTextFind::cmdHolyTextFind_Click(int Index) {
     setCaption(u"Searching..."_s);
     if (isFind(Index) && txtFind(0).Text().isEmpty()) {
         showNormalPointer();
-        MsgBox(u"Please enter some text to search for."_s, MessageIcon::Information, u"Need Text"_s);
+        MsgBox(
+            u"Please enter some text to search for."_s, MessageIcon::Information, u"Need Text"_s);
         txtFind(0).SetFocus();
         return;
     }
@@ -181,7 +182,7 @@ void frmHolyTextFind::takePlace() {
 }
 
 void frmHolyTextFind::showHit() {
-    frmMain& main = form<frmMain>();
+    auto& main = form<frmMain>();
     showHourglass();
     HoldUpdates = On;
     SettingCombos = On;
@@ -213,7 +214,7 @@ void frmHolyTextFind::textSearchFailed(const Error& error) {
 
 // Whatever fails on the way, the window closes.
 void frmHolyTextFind::leave() {
-    frmMain& main = form<frmMain>();
+    auto& main = form<frmMain>();
     showHourglass();
     QueryLock = Off;
     SettingCombos = Off;

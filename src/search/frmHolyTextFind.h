@@ -50,7 +50,7 @@ public:
     bool Repositioned = false;
 
     // Keeps what the window holds for its next opening, for as long as the program runs.
-    void RememberOldSearch();
+    void RememberOldSearch() const;
     void MakeSQL();
 
     // After a search: its words are the words that are marked.

@@ -120,7 +120,7 @@ void frmIndex::GetData() {
     int Count = 1;
     QString reason;
     try {
-        frmWorking& working = form<frmWorking>();
+        auto& working = form<frmWorking>();
         working.Show();
         working.lblWorking.setCaption(u"Now building index"_s);
         DoEvents();
@@ -166,7 +166,7 @@ void frmIndex::addLine(size_t row) {
 }
 
 void frmIndex::showProgress(size_t row) {
-    frmWorking& working = form<frmWorking>();
+    auto& working = form<frmWorking>();
     working.lblWorking.setCaption(
         u"Adding: "_s + referenceOf(IndexBook[row], IndexChapter[row], IndexVerse[row]));
     working.pbWorking.setValue(std::clamp(IndexID[row] * 100 / VersesOfBible, 0, 100));
@@ -181,7 +181,7 @@ void frmIndex::lstIndex_Click() {
     txtIndex.setText(lstIndex.Text());
 }
 
-void frmIndex::lstIndex_DblClick() {
+void frmIndex::lstIndex_DblClick() const {
     CmdIndex(GoToVerse).setValue(true);
 }
 
@@ -227,7 +227,7 @@ void frmIndex::goToVerse() {
         return;
     }
     jumpTo(line);
-    frmMain& main = form<frmMain>();
+    auto& main = form<frmMain>();
     HoldUpdates = On;
     main.showPlaceInLists();
     HoldUpdates = Off;

@@ -36,7 +36,7 @@ public:
     void GetData();
 
     void lstIndex_Click();
-    void lstIndex_DblClick();
+    void lstIndex_DblClick() const;
     void lstIndex_KeyPress(int& KeyAscii);
     void txtIndex_KeyPress(int& KeyAscii);
     void CmdIndex_Click(int Index);

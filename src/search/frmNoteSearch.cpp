@@ -105,7 +105,7 @@ void frmNoteSearch::Form_Unload() {
     if (!found)
         returnTo(before);
     const std::optional<VerseRow> place = currentVerseRow();
-    frmMain& main = form<frmMain>();
+    auto& main = form<frmMain>();
     attempt([&] { main.UpDateBibleText(true); });
     returnTo(place);
     main.txtFind.SetFocus();
@@ -163,7 +163,7 @@ void frmNoteSearch::find(int Index) {
     form<frmMain>().showPlaceInLists();
 }
 
-void frmNoteSearch::tellOfMiss(const QVariant& id) {
+void frmNoteSearch::tellOfMiss(const QVariant& id) const {
     MsgBox(
         u"No more notes contain the text: "_s + txtNoteSearch.Text(), MessageIcon::Information,
         u"Notes"_s);
@@ -173,7 +173,7 @@ void frmNoteSearch::tellOfMiss(const QVariant& id) {
 // The page has rewound the cursor and filled the note pane from there; the next search, the heading
 // and the pane want the note that was found.
 void frmNoteSearch::showPlace() {
-    frmMain& main = form<frmMain>();
+    auto& main = form<frmMain>();
     const std::optional<VerseRow> place = currentVerseRow();
     attempt([&] { main.UpDateBibleText(true); });
     returnTo(place);

@@ -41,7 +41,7 @@ private:
     void press(int Index);
     void find(int Index);
     void takePlace();
-    void tellOfMiss(const QVariant& id);
+    void tellOfMiss(const QVariant& id) const;
     void showPlace();
 
     bool m_refused = false;

@@ -161,7 +161,7 @@ void frmQuery::cboBook_Change() {
         attempt([this] { cboScope.setListIndex(BothTestaments); });
 }
 
-void frmQuery::txtQuery_GotFocus(int Index) {
+void frmQuery::txtQuery_GotFocus(int Index) const {
     txtQuery(Index).selectAll();
 }
 
@@ -190,7 +190,7 @@ void frmQuery::restoreOldQuery() {
     chkMatchCase.setValue(OldQueryWhole);
 }
 
-bool frmQuery::MakeSQLString() {
+bool frmQuery::MakeSQLString() const {
     const QueryChoice choice{txtQuery(0).Text(),   txtQuery(1).Text(),   optAndOr(0).Value(),
                              chkMatchCase.Value(), cboScope.ListIndex(), cboBook.ListIndex()};
     if (choice.firstWord.isEmpty()) {
@@ -263,7 +263,7 @@ void frmQuery::runQuery() {
 }
 
 void frmQuery::showResult() {
-    frmMain& main = form<frmMain>();
+    auto& main = form<frmMain>();
     SettingCombos = On;
     SkipComboClick = On;
     main.setListsToCursor();

@@ -48,7 +48,7 @@ public:
     void RememberOldQuery() const;
 
     // Makes QuerySQL and QueryWords; false where the user has to be told that a word is missing.
-    bool MakeSQLString();
+    bool MakeSQLString() const;
 
     // Puts the verses of QuerySQL in the place of the cursor; without one, and with a text that the
     // store does not understand, the user is told and the program has the table cursor.
@@ -57,7 +57,7 @@ public:
     void cmdQuery_Click(int Index);
     void cboScope_Click();
     void cboBook_Change();
-    void txtQuery_GotFocus(int Index);
+    void txtQuery_GotFocus(int Index) const;
     void cmdHelp_Click();
 
 protected:

@@ -199,7 +199,7 @@ void frmSimpleFind::cmdFind_Click(int Index) {
 
 // The reading position after the search is what the lists show.
 void frmSimpleFind::leave() {
-    frmMain& main = form<frmMain>();
+    auto& main = form<frmMain>();
     main.txtFind.SetFocus();
     attempt([] { OpenBibleTable(); });
     attempt([&] {

@@ -58,8 +58,8 @@ public:
     // The text on the clipboard gives way to this one.
     virtual void setClipboardText(const QString& text) = 0;
 
-    // Lets the user choose and set up a printer for what he has selected; null if he cancels. Printing
-    // starts with the first drawing on it and ends with its last owner.
+    // Lets the user choose and set up a printer for what he has selected; null if he cancels.
+    // Printing starts with the first drawing on it and ends with its last owner.
     virtual std::unique_ptr<QPagedPaintDevice> choosePrinter() = 0;
 
     virtual QDateTime now() = 0;
