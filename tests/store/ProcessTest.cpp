@@ -1,11 +1,14 @@
 // Several programs on one file: no write is lost, also when one of them is killed.
-#include "OtherProgram.h"
+#include "StoreFixture.h"
+#include "support/OtherProgram.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <random>
 
 namespace {
+
+const QString storeHelper = QStringLiteral(LUMENVIA_STORE_HELPER);
 
 class Processes : public StoreFixture {
 protected:
@@ -19,8 +22,8 @@ QString number(qsizetype value) {
 TEST_F(Processes, whatTwoProgramsAddIsAllThere) {
     makeTranslation({{1, 1, 1}});
     constexpr int Rows = 150;
-    OtherProgram one({u"add"_s, path(), u"1"_s, number(Rows)});
-    OtherProgram two({u"add"_s, path(), u"2"_s, number(Rows)});
+    OtherProgram one(storeHelper, {u"add"_s, path(), u"1"_s, number(Rows)});
+    OtherProgram two(storeHelper, {u"add"_s, path(), u"2"_s, number(Rows)});
     EXPECT_TRUE(one.endsWell());
     EXPECT_TRUE(two.endsWell());
     Recordset cursor = openDynaset();
@@ -36,8 +39,8 @@ TEST_F(Processes, whatTwoProgramsAddIsAllThere) {
 TEST_F(Processes, whatTwoProgramsWriteIntoOneRowIsAllThere) {
     constexpr int Rows = 150;
     makeTranslation(std::vector<Verse>(Rows, Verse{0, 0, 0}));
-    OtherProgram one({u"fill"_s, path(), u"chapter"_s, number(Rows)});
-    OtherProgram two({u"fill"_s, path(), u"verse"_s, number(Rows)});
+    OtherProgram one(storeHelper, {u"fill"_s, path(), u"chapter"_s, number(Rows)});
+    OtherProgram two(storeHelper, {u"fill"_s, path(), u"verse"_s, number(Rows)});
     EXPECT_TRUE(one.endsWell());
     EXPECT_TRUE(two.endsWell());
     Recordset cursor = openDynaset();
@@ -51,7 +54,7 @@ TEST_F(Processes, aCursorSeesAtOnceWhatAnotherProgramReportsAsWritten) {
     makeTranslation({{1, 1, 1}});
     Recordset cursor = openDynaset();
     cursor.Fields(0).Value();
-    OtherProgram writer({u"add"_s, path(), u"1"_s, u"50"_s});
+    OtherProgram writer(storeHelper, {u"add"_s, path(), u"1"_s, u"50"_s});
     for (int row = 1; row <= 50; ++row) {
         ASSERT_EQ(writer.readLine(), number(row));
         cursor.MoveLast();
@@ -64,7 +67,7 @@ TEST_F(Processes, whatWasReportedAsWrittenSurvivesAKill) {
     makeTranslation({{1, 1, 1}});
     std::mt19937 random(9);
     for (int round = 0; round < 25; ++round) {
-        OtherProgram writer({u"count"_s, path()});
+        OtherProgram writer(storeHelper, {u"count"_s, path()});
         for (int lines = static_cast<int>(random() % 40); lines >= 0; --lines)
             ASSERT_FALSE(writer.readLine().isEmpty());
         const int last = writer.kill().last().toInt();
@@ -87,7 +90,7 @@ TEST_F(Processes, aFileThatStaysLockedIsAnErrorAfterTheTimeAndWorksAfterwards) {
     storeTuning().busyTimeout = std::chrono::milliseconds(20);
     makeTranslation({{1, 1, 1, u"body"_s}});
     Recordset cursor = openDynaset();
-    OtherProgram holder({u"lock"_s, path()});
+    OtherProgram holder(storeHelper, {u"lock"_s, path()});
     ASSERT_EQ(holder.readLine(), u"locked"_s);
     QElapsedTimer timer;
     timer.start();
@@ -109,7 +112,7 @@ TEST_F(Processes, anUpdateOnALockedFileCanBeTriedAgain) {
     cursor.Edit();
     cursor.Fields(4) = u"new"_s;
     {
-        OtherProgram holder({u"lock"_s, path()});
+        OtherProgram holder(storeHelper, {u"lock"_s, path()});
         ASSERT_EQ(holder.readLine(), u"locked"_s);
         EXPECT_EQ(errorOf([&] { cursor.Update(); }), Error::StorageFailure);
         EXPECT_TRUE(holder.endsWell());
@@ -121,7 +124,7 @@ TEST_F(Processes, anUpdateOnALockedFileCanBeTriedAgain) {
 TEST_F(Processes, aLockThatIsReleasedInTimeIsWaitedFor) {
     makeTranslation({{1, 1, 1, u"body"_s}});
     Recordset cursor = openDynaset();
-    OtherProgram holder({u"lock"_s, path(), u"200"_s});
+    OtherProgram holder(storeHelper, {u"lock"_s, path(), u"200"_s});
     ASSERT_EQ(holder.readLine(), u"locked"_s);
     cursor.Edit();
     cursor.Fields(4) = u"new"_s;
@@ -145,7 +148,7 @@ protected:
         const QString folderPath = QFileInfo(path()).path();
         QFile::setPermissions(path(), file);
         QFile::setPermissions(folderPath, folder);
-        OtherProgram user({u"look"_s, path()});
+        OtherProgram user(storeHelper, {u"look"_s, path()});
         EXPECT_TRUE(user.endsWell());
         QFile::setPermissions(folderPath, writing);
         return user.kill().join(u'\n');
