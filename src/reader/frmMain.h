@@ -219,7 +219,7 @@ private:
     void findFromCursor(bool forward);
 
     void EndQuery();
-    void searchText();
+    void searchText() const;
     void restoreFocus();
     void sendToTextBox(Qt::Key key);
     void openInstead(const QString& path);

@@ -46,7 +46,7 @@ void frmMain::cmdMain_Click(int Index) {
     showNormalPointer();
 }
 
-void frmMain::searchText() {
+void frmMain::searchText() const {
     cmdMain(6).setValue(true);
     form<frmHolyTextFind>().ShowModal();
 }

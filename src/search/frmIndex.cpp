@@ -185,7 +185,7 @@ void frmIndex::lstIndex_DblClick() const {
     CmdIndex(GoToVerse).setValue(true);
 }
 
-void frmIndex::lstIndex_KeyPress(int& KeyAscii) {
+void frmIndex::lstIndex_KeyPress(int& KeyAscii) const {
     if (KeyAscii != EnterKey)
         return;
     KeyAscii = 0;

@@ -37,7 +37,7 @@ public:
 
     void lstIndex_Click();
     void lstIndex_DblClick() const;
-    void lstIndex_KeyPress(int& KeyAscii);
+    void lstIndex_KeyPress(int& KeyAscii) const;
     void txtIndex_KeyPress(int& KeyAscii);
     void CmdIndex_Click(int Index);
     void cmdHelp_Click();
