@@ -1,5 +1,6 @@
 // Starts the toolkit and the desktop, sets up the program's folder, and hands over to Main.
 #include "app/FirstPage.h"
+#include "app/JetConversion.h"
 #include "app/ProgramFolder.h"
 #include "app/UnattendedDesktop.h"
 
@@ -9,6 +10,7 @@
 #include "core/Settings.h"
 #include "reader/frmMain.h"
 #include "settings/SettingsStore.h"
+#include "store/JetConverter.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -20,6 +22,7 @@ namespace {
 
 int run() {
     prepareProgramFolder();
+    setJetConverter(convertJetDatabase);
     resetSettings();
     runHandler(Main);
     if (programHasEnded())

@@ -50,6 +50,18 @@ TEST(Menu, shortcutsOfShownAndHiddenItemsWork) {
     EXPECT_EQ(form.clicked, (QList<int>{2, 5}));
 }
 
+TEST(Menu, aShortcutBehindBlanksStandsInItsColumn) {
+    MenuItem item(nullptr, u"mnu"_s, u"&Go      Ctrl+G"_s);
+    EXPECT_EQ(item.text(), u"&Go\tCtrl+G"_s);
+    EXPECT_EQ(item.Caption(), u"&Go      Ctrl+G"_s);
+}
+
+TEST(Menu, blanksInALaterCaptionStayAsTheyAre) {
+    MenuItem item(nullptr, u"mnu"_s, {});
+    item.setCaption(u"Hope   and   love"_s);
+    EXPECT_EQ(item.text(), u"Hope   and   love"_s);
+}
+
 TEST(Menu, aClickDoesNotTurnACheckMark) {
     MenuForm form;
     form.items(0).setChecked(true);

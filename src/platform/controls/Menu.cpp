@@ -8,7 +8,9 @@ using namespace Qt::StringLiterals;
 MenuItem::MenuItem(QObject* parent, const QString& name, const QString& caption)
     : QAction(parent) {
     setObjectName(name);
+    static const QRegularExpression blanks(u" {3,}"_s);
     setCaption(caption);
+    setText(QString(caption).replace(blanks, u"\t"_s));
     connect(this, &QAction::triggered, this, [this] {
         setChecked(m_checked);
         Click.raise();
@@ -16,9 +18,8 @@ MenuItem::MenuItem(QObject* parent, const QString& name, const QString& caption)
 }
 
 void MenuItem::setCaption(const QString& caption) {
-    static const QRegularExpression blanks(u" {3,}"_s);
     m_caption = caption;
-    setText(QString(caption).replace(blanks, u"\t"_s));
+    setText(caption);
 }
 
 void MenuItem::setChecked(bool checked) {

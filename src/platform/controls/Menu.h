@@ -14,7 +14,8 @@ public:
 
     MenuItem(QObject* parent, const QString& name, const QString& caption);
 
-    // A shortcut that the caption names behind blanks stands in the menu's column of shortcuts.
+    // A shortcut that the first caption names behind blanks stands in the menu's column of
+    // shortcuts. Blanks in a later one are its user's.
     QString Caption() const { return m_caption; }
     void setCaption(const QString& caption);
     bool Checked() const { return isChecked(); }

@@ -9,7 +9,20 @@ MultilineTextBox::MultilineTextBox(QWidget* parent, const ControlText& text)
     : Control(parent, text) {
     viewport()->setMouseTracking(true);
     setTabChangesFocus(true);
-    connect(this, &QPlainTextEdit::textChanged, this, [this] { Change.raise(); });
+    connect(this, &QPlainTextEdit::textChanged, this, [this] {
+        if (!m_isComposing)
+            Change.raise();
+    });
+}
+
+// What an input method composes is shown in the box, and no part of its text until it is chosen.
+void MultilineTextBox::inputMethodEvent(QInputMethodEvent* event) {
+    const QString before = Text();
+    m_isComposing = true;
+    Control::inputMethodEvent(event);
+    m_isComposing = false;
+    if (Text() != before)
+        Change.raise();
 }
 
 QString MultilineTextBox::Text() const {

@@ -35,6 +35,11 @@ public:
     void setForeColor(const QColor& color) { setPaletteColor(QPalette::Text, color); }
     void setBackColor(const QColor& color) { setPaletteColor(QPalette::Base, color); }
 
+protected:
+    void inputMethodEvent(QInputMethodEvent* event) override;
+
 private:
     void setPaletteColor(QPalette::ColorRole role, const QColor& color);
+
+    bool m_isComposing = false;
 };

@@ -2,9 +2,11 @@
 
 #include "basic/Error.h"
 #include "store/DataFile.h"
+#include "store/JetConverter.h"
 #include "store/Statement.h"
 #include "store/StoreTuning.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
 #include <sqlite3.h>
@@ -55,12 +57,20 @@ bool isJetFile(const QByteArray& head) {
            && (name.startsWith(JetSignatures[0]) || name.startsWith(JetSignatures[1]));
 }
 
+// Before the engine has the file open: it would go on with the file that the converter replaces.
+QString pathAfterConversion(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || !isJetFile(file.read(HeadSize)))
+        return path;
+    file.close();
+    if (!jetConverter())
+        refuse(
+            shownPath(path), u"is a Jet database. It has to be converted before it is opened."_s);
+    return jetConverter()(path);
+}
+
 void checkHead(const Connection& connection) {
     const QByteArray head = connection.readHead(HeadSize);
-    if (isJetFile(head))
-        refuse(
-            connection.shownName(),
-            u"is a Jet database. It has to be converted before it is opened."_s);
     if (!head.startsWith(Signature))
         refuse(connection.shownName(), u"is not a data file of Lumenvia."_s);
     if (head.size() < HeadSize)
@@ -123,10 +133,12 @@ bool folderIsWritable(const QString& path) {
 
 } // namespace
 
-std::shared_ptr<Connection> openDataFile(const QString& path, bool readOnly) {
-    checkPath(path);
+std::shared_ptr<Connection> openDataFile(const QString& givenPath, bool readOnly) {
+    checkPath(givenPath);
+    const QString path = pathAfterConversion(givenPath);
+    const bool isElsewhere = path != givenPath;
     auto connection = std::make_shared<Connection>(
-        path, readOnly ? Connection::Access::Read : Connection::Access::Write);
+        path, readOnly || isElsewhere ? Connection::Access::Read : Connection::Access::Write);
     checkHead(*connection);
     readSchema(*connection);
     connection->execute(Reading);
