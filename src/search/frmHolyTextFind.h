@@ -59,9 +59,6 @@ public:
     // Marks the words on the page.
     void DoColor();
 
-    // The page cannot be marked: tells the user, and closes the window.
-    void textSearchFailed(const Error& error);
-
     void cmdHolyTextFind_Click(int Index);
     void cboBook_Click();
     void cboTestament_Click();
@@ -90,5 +87,7 @@ private:
     void offerBeginning();
     void takePlace();
     void showHit();
+    // The page cannot be marked: tells the user, and closes the window.
+    void textSearchFailed(const Error& error);
     void leave();
 };

@@ -72,9 +72,9 @@ void frmQuery::layOutWords() {
     rows->setSpacing(Spacing);
     rows->addRow(&Label1, &txtQuery(0));
     rows->addRow(&Label2, &txtQuery(1));
-    rows->addRow(&optAndOr(0));
-    rows->addRow(&optAndOr(1));
-    rows->addRow(&chkMatchCase);
+    rows->addRow(QString(), &optAndOr(0));
+    rows->addRow(QString(), &optAndOr(1));
+    rows->addRow(QString(), &chkMatchCase);
 }
 
 void frmQuery::layOutBooks() {

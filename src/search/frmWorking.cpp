@@ -12,4 +12,10 @@ frmWorking::frmWorking()
     column->addWidget(&lblWorking);
     column->addWidget(&pbWorking);
     setMinimumWidth(fontMetrics().averageCharWidth() * 50);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+}
+
+void frmWorking::Show() {
+    Load();
+    show();
 }

@@ -11,6 +11,10 @@ class frmWorking final : public Form {
 public:
     frmWorking();
 
+    // The keyboard stays with the window that walks, before which the window with the result then
+    // stands.
+    void Show();
+
     Label lblWorking{this, {u"lblWorking", u"One Moment Please..."}};
     ProgressBar pbWorking{this, {u"pbWorking", u"Progress"}};
 };

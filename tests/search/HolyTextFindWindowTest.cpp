@@ -1,9 +1,13 @@
 // The advanced search as a window: its marks on the page, its memory, its place and its keys.
 #include "basic/Error.h"
+#include "search/FocusOrder.h"
 #include "search/HolyTextFindFixture.h"
 
 #include <QScreen>
+#include <QScrollBar>
 #include <QTest>
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -11,6 +15,13 @@ namespace {
 
 class HolyTextFindWindow : public HolyTextFindFixture {
 protected:
+    static void moveMouseOver(QWidget& widget) {
+        QMouseEvent move(
+            QEvent::MouseMove, QPointF(2, 2), widget.mapToGlobal(QPointF(2, 2)), Qt::NoButton,
+            Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&widget, &move);
+    }
+
     // Whether a stretch of the page is marked, all of it and in all three ways.
     static bool isMarked(qsizetype start, qsizetype length) {
         RichTextBox& page = window().txtMain;
@@ -22,6 +33,25 @@ protected:
         }
         return true;
     }
+};
+
+// Fails once, at the first wait pointer over the page of a verse: there the marking starts.
+class FailingMarks final : public QObject {
+public:
+    explicit FailingMarks(const QString& verse)
+        : m_verse(verse) {}
+
+    bool eventFilter(QObject* window, QEvent* event) override {
+        if (event->type() == QEvent::CursorChange
+            && static_cast<QWidget*>(window)->cursor().shape() == Qt::WaitCursor
+            && form<frmMain>().txtMain.Text().startsWith(m_verse) && !std::exchange(m_failed, true))
+            throw Error(Error::InvalidPropertyValue, u"out of ink"_s);
+        return false;
+    }
+
+private:
+    QString m_verse;
+    bool m_failed = false;
 };
 
 } // namespace
@@ -55,20 +85,37 @@ TEST_F(HolyTextFindWindow, marksFromThePagesSecondCharacterOn) {
 }
 
 TEST_F(HolyTextFindWindow, theViewStaysOnTheHit) {
+    Verses verses = sampleVerses();
+    const auto psalm = std::ranges::find(verses, 19, &Verse::book);
+    for (const int verse : {2, 175, 176})
+        psalm[verse - 1].body = u"Of grace."_s;
+    startOn(verses);
     inWindow([](frmHolyTextFind& find) {
         search(find, u"grace"_s);
-        EXPECT_LE(window().txtMain.SelStart(), 1);
-        EXPECT_EQ(window().txtMain.SelLength(), 0);
+        const RichTextBox& page = window().txtMain;
+        EXPECT_EQ(pageTop(), u"Psalms 119:2 Of grace."_s);
+        EXPECT_TRUE(isMarked(page.Text().lastIndexOf(u"grace"_s), 5));
+        press(find, Next);
+        press(find, Previous);
+        ASSERT_GT(page.verticalScrollBar()->maximum(), 0);
+        EXPECT_EQ(page.verticalScrollBar()->value(), 0);
+        EXPECT_LE(page.SelStart(), 1);
+        EXPECT_EQ(page.SelLength(), 0);
         press(find, Close);
     });
 }
 
 TEST_F(HolyTextFindWindow, aPageThatCannotBeMarkedIsToldAndClosesTheWindow) {
     inWindow([this](frmHolyTextFind& find) {
-        search(find, u"begins"_s);
+        FailingMarks marks(u"Matthew 1:2"_s);
+        find.installEventFilter(&marks);
+        QString page;
         desktop.expectMessage(
-            {u"Error in Text Search: \n\nout of ink"_s, u"Error"_s, MessageIcon::Information});
-        find.textSearchFailed(Error(Error::InvalidPropertyValue, u"out of ink"_s));
+            {u"Error in Text Search: \n\nout of ink"_s, u"Error"_s, MessageIcon::Information},
+            Answer::Ok, [&] { page = pageTop(); });
+        search(find, u"begins"_s);
+        EXPECT_EQ(page, u"Matthew 1:2 grace begins this one."_s);
+        EXPECT_FALSE(isLoaded<frmHolyTextFind>());
     });
     EXPECT_EQ(pageTop(), u"Matthew 1:2 grace begins this one."_s);
     expectReadingAgain();
@@ -120,9 +167,9 @@ TEST_F(HolyTextFindWindow, remembersWhatItLastHeld) {
 }
 
 TEST_F(HolyTextFindWindow, putsTheListOfTestamentsBack) {
+    window().cmbTestament.setListIndex(1);
     inWindow([](frmHolyTextFind& find) {
-        EXPECT_EQ(find.SavedTestament, 0);
-        find.SavedTestament = 1;
+        window().cmbTestament.setListIndex(2);
         press(find, Close);
     });
     EXPECT_EQ(window().cmbTestament.ListIndex(), 1);
@@ -139,13 +186,15 @@ TEST_F(HolyTextFindWindow, standsInTheLowerRightCorner) {
 
 TEST_F(HolyTextFindWindow, theMouseShortensTheCaption) {
     inWindow([](frmHolyTextFind& find) {
-        QTest::mouseMove(&find, QPoint(2, 2));
-        find.Form_MouseMove();
+        moveMouseOver(find);
         EXPECT_EQ(find.Caption(), u"Advanced Search"_s);
         search(find, u"grace"_s);
         EXPECT_EQ(find.Caption(), u"Advanced Search of Verses"_s);
-        find.fraFind.MouseMove.raise(0, 0, 1, 1);
+        moveMouseOver(find.fraFind);
         EXPECT_EQ(find.Caption(), u"Advanced Search"_s);
+        search(find, u"grace"_s);
+        moveMouseOver(find.cmdHolyTextFind(Next));
+        EXPECT_EQ(find.Caption(), u"Advanced Search of Verses"_s);
         press(find, Close);
     });
 }
@@ -177,39 +226,54 @@ TEST_F(HolyTextFindWindow, enterFindsTheNext) {
 
 TEST_F(HolyTextFindWindow, hiddenButtonsOnlyRedrawThePage) {
     inWindow([](frmHolyTextFind& find) {
-        EXPECT_FALSE(find.cmdHolyTextFind(First).isVisible());
-        EXPECT_FALSE(find.cmdHolyTextFind(Query).isVisible());
         search(find, u"begins"_s);
+        for (const Press button : {Query, First}) {
+            EXPECT_FALSE(find.cmdHolyTextFind(button).isVisible());
+            window().txtMain.setText(u"another page"_s);
+            press(find, button);
+            EXPECT_EQ(position(), u"40:1:2"_s);
+            EXPECT_EQ(pageTop(), u"Matthew 1:2 grace begins this one."_s);
+            EXPECT_TRUE(isMarked(window().txtMain.Text().indexOf(u"begins"_s), 6));
+        }
+        press(find, Close);
+    });
+}
+
+TEST_F(HolyTextFindWindow, hiddenFindFirstMovesToAFreshScope) {
+    rsBible.Seek(u"="_s, 2, 1, 1);
+    inWindow([](frmHolyTextFind& find) {
+        find.cboTestament.setListIndex(2);
+        search(find, u"begins"_s, First);
+        EXPECT_EQ(position(), u"40:1:1"_s);
+        EXPECT_EQ(pageTop(), u"Matthew 1:1 The grace of the book."_s);
+        EXPECT_TRUE(find.Repositioned);
+        press(find, Close);
+    });
+    EXPECT_EQ(pageTop(), u"Exodus 1:1 Peace with grace?"_s);
+}
+
+TEST_F(HolyTextFindWindow, hiddenQueryNeedsNoWordAndNoScope) {
+    inWindow([](frmHolyTextFind& find) {
+        find.cboTestament.setListIndex(2);
+        window().txtMain.setText(u"another page"_s);
         press(find, Query);
-        press(find, First);
-        EXPECT_EQ(position(), u"40:1:2"_s);
-        EXPECT_EQ(pageTop(), u"Matthew 1:2 grace begins this one."_s);
+        EXPECT_EQ(find.SearchSQL, u" ((( body like \"**\"))) AND ((book > 39))"_s);
+        EXPECT_FALSE(find.Repositioned);
+        EXPECT_EQ(pageTop(), u"Genesis 1:1 In the beginning grace was there."_s);
+        EXPECT_EQ(find.Caption(), u"Advanced Search of Verses"_s);
         press(find, Close);
     });
 }
 
 TEST_F(HolyTextFindWindow, theFocusGoesFromTopToBottom) {
     inWindow([](frmHolyTextFind& find) {
-        QStringList order;
-        QWidget* widget = &find.txtFind(0);
-        for (int step = 0; step < 40; ++step, widget = widget->nextInFocusChain()) {
-            if (widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus)
-                && !order.contains(widget->objectName()))
-                order.append(widget->objectName());
-        }
-        const QStringList expected = {
-            u"txtFind(0)"_s,
-            u"txtFind(1)"_s,
-            u"optAndOr(0)"_s,
-            u"optAndOr(1)"_s,
-            u"cboTestament"_s,
-            u"cboBook"_s,
-            u"chkMatchWholeWord"_s,
-            u"cmdHolyTextFind(3)"_s,
-            u"cmdHolyTextFind(4)"_s,
-            u"cmdHolyTextFind(1)"_s,
-            u"cmdHelp"_s};
-        EXPECT_EQ(order, expected);
+        EXPECT_EQ(firstFocus(find), u"txtFind(0)"_s);
+        EXPECT_EQ(
+            focusOrder(find.txtFind(0)),
+            (QStringList{
+                u"txtFind(0)"_s, u"txtFind(1)"_s, u"optAndOr(0)"_s, u"optAndOr(1)"_s,
+                u"cboTestament"_s, u"cboBook"_s, u"chkMatchWholeWord"_s, u"cmdHolyTextFind(3)"_s,
+                u"cmdHolyTextFind(4)"_s, u"cmdHolyTextFind(1)"_s, u"cmdHelp"_s}));
         press(find, Close);
     });
 }
@@ -227,6 +291,7 @@ TEST_F(HolyTextFindWindow, itsControlsSayWhatTheyAreFor) {
         EXPECT_EQ(find.fraFind.Caption(), u"Enter text to look for"_s);
         EXPECT_EQ(find.Label1.Caption(), u"First Word"_s);
         EXPECT_EQ(find.Label2.Caption(), u"Second Word (Optional)"_s);
+        EXPECT_EQ(find.txtFind(0).accessibleName(), u"First Word"_s);
         EXPECT_EQ(find.txtFind(1).accessibleName(), u"Second Word (Optional)"_s);
         EXPECT_EQ(find.optAndOr(0).Caption(), u"Find verses with BOTH words"_s);
         EXPECT_EQ(find.optAndOr(1).Caption(), u"Find verses with EITHER words"_s);
@@ -234,12 +299,28 @@ TEST_F(HolyTextFindWindow, itsControlsSayWhatTheyAreFor) {
         EXPECT_EQ(find.cboTestament.List(0), u"Choose a Book"_s);
         EXPECT_EQ(find.cboTestament.List(1), u"Search entire Old Testament ONLY"_s);
         EXPECT_EQ(find.cboTestament.List(2), u"Search entire New Testament ONLY"_s);
+        EXPECT_EQ(find.cboTestament.ListCount(), 3);
         EXPECT_EQ(find.chkMatchWholeWord.Caption(), u"Match Whole Word"_s);
-        EXPECT_EQ(find.cmdHolyTextFind(First).ToolTipText(), u"Find First occurance of a word"_s);
-        EXPECT_EQ(find.cmdHolyTextFind(Next).ToolTipText(), u"Find the next occurance"_s);
-        EXPECT_EQ(find.cmdHolyTextFind(Previous).ToolTipText(), u"Find a previous occurance"_s);
-        EXPECT_EQ(find.cmdHelp.ToolTipText(), u"Tool Overview"_s);
+        EXPECT_EQ(find.lblFindWhat(0).Caption(), u"Testament"_s);
+        EXPECT_EQ(find.lblFindWhat(1).Caption(), QString());
         EXPECT_EQ(find.lblFindWhat(2).Caption(), u"Book"_s);
+        press(find, Close);
+    });
+}
+
+TEST_F(HolyTextFindWindow, itsButtonsSayWhatTheyDo) {
+    inWindow([](frmHolyTextFind& find) {
+        const std::pair<QString, QString> texts[] = {
+            {u"&Find First"_s, u"Find First occurance of a word"_s},
+            {u"&Close"_s, QString()},
+            {u"&Query"_s, QString()},
+            {u"Find &Next"_s, u"Find the next occurance"_s},
+            {u"Find &Previous"_s, u"Find a previous occurance"_s}};
+        for (int button = First; button <= Previous; ++button) {
+            EXPECT_EQ(find.cmdHolyTextFind(button).Caption(), texts[button].first);
+            EXPECT_EQ(find.cmdHolyTextFind(button).ToolTipText(), texts[button].second);
+        }
+        EXPECT_EQ(find.cmdHelp.ToolTipText(), u"Tool Overview"_s);
         press(find, Close);
     });
 }

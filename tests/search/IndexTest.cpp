@@ -1,65 +1,13 @@
-// The index of a query's hits.
-#include "basic/Error.h"
-#include "core/GlobalCode.h"
-#include "core/Settings.h"
-#include "reader/frmMain.h"
-#include "search/frmIndex.h"
-#include "search/frmQuery.h"
-#include "search/frmWorking.h"
-#include "support/ProgramFixture.h"
+// The index of a query's hits: its window, and the way to the verse that is chosen in it.
+#include "search/FocusOrder.h"
+#include "search/IndexFixture.h"
 
-#include <QTest>
-
-using namespace Qt::StringLiterals;
+#include <QClipboard>
+#include <QGuiApplication>
 
 namespace {
 
-const Message question{
-    u"The Index tool is used to see the results of a Query in a Quick Pick List. \n\r\n\r"
-    u"Show the Querying Tool?"_s,
-    u"Index Tool"_s, MessageIcon::Question, MessageButtons::YesNo};
-const Message fewerThanAPage{
-    u"There is no need to run the Index tool because the number of verses found is less than "
-    u"what you can see on the screen."_s,
-    u"Index list not needed"_s, MessageIcon::Information};
-const Message allOnThePage{
-    u"There is no need to run the Index tool because all the verses found in your Query can be "
-    u"seen on the screen."_s,
-    u"Index list not needed"_s, MessageIcon::Information};
-
-class Index : public ProgramFixture {
-protected:
-    // 25 + 23 verses with "Verse 40", 176 with "Verse 19".
-    void SetUp() override {
-        startProgram();
-        QCoreApplication::processEvents();
-        VersesPerPage = 5;
-    }
-
-    static frmMain& main() { return form<frmMain>(); }
-    static frmIndex& window() { return form<frmIndex>(); }
-    static void press(CommandButton& button) { QTest::mouseClick(&button, Qt::LeftButton); }
-    static void open() { main().cmdMain(10).setValue(true); }
-
-    void query(const QString& word) {
-        desktop.expectWindow([word](QWidget&) {
-            form<frmQuery>().txtQuery(0).setText(word);
-            form<frmQuery>().cmdQuery(0).setValue(true);
-        });
-        main().cmdMain(5).setValue(true);
-        rsBible.MoveFirst();
-    }
-
-    static void expectNoFlag() {
-        for (const Flag flag : {SettingCombos, SkipComboClick, HoldUpdates, StartingUp})
-            EXPECT_EQ(flag, Off);
-    }
-
-    static QString listed() {
-        return main().cboBook.Text() + u' ' + main().cboChapter.Text() + u':'
-               + main().cboVerse.Text();
-    }
-};
+class Index : public IndexFixture {};
 
 } // namespace
 
@@ -102,94 +50,6 @@ TEST_F(Index, saysWhatItIsFor) {
     EXPECT_EQ(window().cmdHelp.ToolTipText(), u"Tool Overview"_s);
 }
 
-TEST_F(Index, listsOneLineLessThanWantedFromTheCursorOn) {
-    const std::pair<double, int> wanted[] = {{50, 49}, {0, 24},    {-3, 24},  {0.5, 24}, {20, 19},
-                                             {99, 98}, {99.5, 99}, {100, 99}, {150, 99}, {6, 5}};
-    query(u"verse 19"_s);
-    for (const auto& [items, lines] : wanted) {
-        NumIndexItems = items;
-        rsBible.FindFirst(u"verse = 3"_s);
-        open();
-        EXPECT_EQ(window().lstIndex.ListCount(), lines) << items;
-        EXPECT_EQ(window().lstIndex.List(0), u"Psalms 119:3 Verse 19:119:3."_s);
-        EXPECT_EQ(window().IndexVerse[1].toInt(), 3);
-        EXPECT_EQ(window().IndexID[2], window().IndexID[1] + 1);
-        window().Unload();
-    }
-    expectNoFlag();
-}
-
-TEST_F(Index, startsOneHitBelowThePageTop) {
-    query(u"verse 40"_s);
-    main().UpDateBibleText(true);
-    ASSERT_TRUE(main().Caption().contains(u"[Matthew 1:1]"_s));
-    open();
-    EXPECT_EQ(window().lstIndex.List(0), u"Matthew 1:2 Verse 40:1:2."_s);
-}
-
-TEST_F(Index, endsWithTheHitsAndLeavesTheCursorBehindThem) {
-    query(u"verse 40:2"_s);
-    open();
-    EXPECT_EQ(window().lstIndex.ListCount(), 23);
-    EXPECT_EQ(position(), u"EOF"_s);
-    expectNoFlag();
-    EXPECT_FALSE(isLoaded<frmWorking>());
-    EXPECT_EQ(main().cursor().shape(), Qt::ArrowCursor);
-}
-
-TEST_F(Index, isNotNeededForFewHits) {
-    VersesPerPage = 40;
-    query(u"verse 40:2"_s);
-    desktop.expectMessage(allOnThePage);
-    open();
-    EXPECT_FALSE(isLoaded<frmIndex>());
-    EXPECT_FALSE(isLoaded<frmWorking>());
-}
-
-TEST_F(Index, isNotNeededForFewerLinesThanAPage) {
-    VersesPerPage = 40;
-    NumIndexItems = 0;
-    query(u"verse 19"_s);
-    desktop.expectMessage(fewerThanAPage);
-    open();
-    EXPECT_FALSE(isLoaded<frmIndex>());
-    VersesPerPage = 25; // just as many as the count
-    rsBible.MoveFirst();
-    open();
-    EXPECT_TRUE(isLoaded<frmIndex>());
-}
-
-TEST_F(Index, showsTextsWithoutTheirRedLetters) {
-    const QString red = QChar(30) + u"003 004one love two"_s;
-    rsBible.Seek(u"="_s, 40, 1, 1);
-    rsBible.Edit();
-    rsBible.Fields(4) = red;
-    rsBible.Update();
-    query(u"love"_s);
-    VersesPerPage = 1;
-    open();
-    EXPECT_EQ(window().lstIndex.List(0), u"Matthew 1:1 one love two"_s);
-}
-
-TEST_F(Index, tellsOfItsProgress) {
-    class Watch final : public QObject {
-    public:
-        bool eventFilter(QObject* watched, QEvent* event) override {
-            if (watched->objectName() == u"lblWorking" && event->type() == QEvent::Paint)
-                texts.append(static_cast<Label*>(watched)->Caption());
-            return false;
-        }
-        QStringList texts;
-    } watch;
-    query(u"verse 19"_s);
-    frmWorking& working = form<frmWorking>();
-    working.lblWorking.installEventFilter(&watch);
-    NumIndexItems = 20;
-    open();
-    EXPECT_TRUE(watch.texts.contains(u"Adding: Psalms 119:18"_s));
-    EXPECT_FALSE(isLoaded<frmWorking>());
-}
-
 TEST_F(Index, showsTheChosenLineInFull) {
     query(u"verse 19"_s);
     open();
@@ -200,12 +60,59 @@ TEST_F(Index, showsTheChosenLineInFull) {
     EXPECT_EQ(window().txtIndex.Text(), u"Psalms 119:3 Verse 19:119:3."_s);
     QTest::keyClick(&list, Qt::Key_Down);
     EXPECT_EQ(window().txtIndex.Text(), u"Psalms 119:4 Verse 19:119:4."_s);
+}
+
+TEST_F(Index, nothingCanBeTypedIntoTheChosenVerse) {
+    query(u"verse 19"_s);
+    open();
+    window().lstIndex.setListIndex(3);
     QTest::keyClicks(&window().txtIndex, u"typed"_s);
-    QTest::keyClick(&window().txtIndex, Qt::Key_Delete);
+    for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Return, Qt::Key_Space})
+        QTest::keyClick(&window().txtIndex, key);
     EXPECT_EQ(window().txtIndex.Text(), u"Psalms 119:4 Verse 19:119:4."_s);
-    int key = 'x';
-    window().txtIndex_KeyPress(key);
-    EXPECT_EQ(key, 0);
+    EXPECT_TRUE(window().isVisible());
+    for (int typed : {int{'x'}, 13, 8}) {
+        window().txtIndex_KeyPress(typed);
+        EXPECT_EQ(typed, 0);
+    }
+}
+
+TEST_F(Index, theChosenVerseCanBeCopied) {
+    query(u"verse 19"_s);
+    open();
+    window().lstIndex.setListIndex(3);
+    QGuiApplication::clipboard()->clear();
+    window().txtIndex.SetFocus();
+    window().txtIndex.selectAll();
+    QTest::keyClick(&window().txtIndex, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"Psalms 119:4 Verse 19:119:4."_s);
+}
+
+TEST_F(Index, calledAgainKeepsItsList) {
+    query(u"verse 19"_s);
+    rsBible.FindFirst(u"verse = 3"_s);
+    open();
+    window().lstIndex.setListIndex(2);
+    const QString place = position();
+    QTest::keyClick(&main(), Qt::Key_I, Qt::ControlModifier);
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_EQ(window().lstIndex.List(0), u"Psalms 119:3 Verse 19:119:3."_s);
+    EXPECT_EQ(window().lstIndex.ListIndex(), 2);
+    EXPECT_EQ(position(), place);
+}
+
+TEST_F(Index, aVerseThatANewQueryLacksLeavesTheReaderThere) {
+    query(u"verse 40"_s);
+    open();
+    query(u"verse 19"_s);
+    rsBible.FindFirst(u"verse = 9"_s);
+    window().lstIndex.setListIndex(4);
+    press(window().CmdIndex(1));
+    EXPECT_FALSE(isLoaded<frmIndex>());
+    EXPECT_EQ(listed(), u"Psalms 119:9"_s);
+    EXPECT_TRUE(main().Caption().contains(u"[Psalms 119:9]"_s));
+    EXPECT_EQ(InQuery, On);
+    expectNoFlag();
 }
 
 TEST_F(Index, withoutASelectionNothingIsReached) {
@@ -329,6 +236,16 @@ TEST_F(Index, escapeAndTheTitleBarExit) {
             window().close();
         EXPECT_FALSE(isLoaded<frmIndex>());
     }
+}
+
+TEST_F(Index, theFocusGoesFromTopToBottom) {
+    query(u"verse 19"_s);
+    open();
+    EXPECT_EQ(firstFocus(window()), u"lstIndex"_s);
+    EXPECT_EQ(
+        focusOrder(window().lstIndex),
+        (QStringList{
+            u"lstIndex"_s, u"txtIndex"_s, u"CmdIndex(1)"_s, u"CmdIndex(0)"_s, u"cmdHelp"_s}));
 }
 
 TEST_F(Index, helpShowsItsTopic) {

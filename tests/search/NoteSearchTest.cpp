@@ -1,84 +1,12 @@
 // The search in the user's notes.
-#include "basic/Error.h"
-#include "core/GlobalCode.h"
-#include "core/Settings.h"
-#include "reader/frmMain.h"
-#include "search/frmNoteSearch.h"
-#include "search/frmQuery.h"
-#include "support/ProgramFixture.h"
+#include "search/FocusOrder.h"
+#include "search/NoteSearchFixture.h"
 
-#include <QTest>
-
-using namespace Qt::StringLiterals;
+#include <QScreen>
 
 namespace {
 
-const Message refusal{
-    u"In a query you can't use the Notes Searcher. Press Ctrl+J to end the Query."_s,
-    u"Can't Use Tool"_s, MessageIcon::Information};
-
-Message noMore(const QString& text) {
-    return {u"No more notes contain the text: "_s + text, u"Notes"_s, MessageIcon::Information};
-}
-
-class NoteSearch : public ProgramFixture {
-protected:
-    void SetUp() override {
-        Verses verses = sampleVerses();
-        const std::pair<qsizetype, QString> notes[] = {
-            {4, u"First thought"_s},                            // Genesis 1:5
-            {60, u" "_s},                                       // a note that was deleted
-            {56 + 175, u"A THOUGHT \" x"_s},                    // Psalms 119:176
-            {56 + 176 + 6, u"my thought, 100% _ok_ [a] #1?"_s}, // Matthew 1:7
-            {verses.size() - 1, u"last thought"_s}};
-        for (const auto& [row, note] : notes)
-            verses[row].note = note;
-        addTranslation(u"KJV.mdb"_s, verses);
-        startProgram();
-        QCoreApplication::processEvents();
-        // The start page has left the cursor on Psalms 119:160.
-        ASSERT_EQ(rsBible.Fields(1).Value().toInt(), 19);
-    }
-
-    static frmMain& main() { return form<frmMain>(); }
-    static frmNoteSearch& window() { return form<frmNoteSearch>(); }
-    static void press(int button) {
-        QTest::mouseClick(&window().cmdNoteSearch(button), Qt::LeftButton);
-    }
-    enum Button { First, Close, Next, Previous };
-
-    void open(const std::function<void()>& user) {
-        desktop.expectWindow([user](QWidget& opened) {
-            EXPECT_EQ(opened.objectName(), u"frmNoteSearch"_s);
-            user();
-        });
-        main().cmdMain(3).setValue(true);
-        expectPlainState();
-    }
-
-    static void expectPlainState() {
-        for (const Flag flag :
-             {SettingCombos, SkipComboClick, HoldUpdates, StartingUp, InQuery, QueryLock})
-            EXPECT_EQ(flag, Off);
-        const QString place = position();
-        EXPECT_TRUE(attempt([] {
-            rsBible.Seek(
-                u"="_s, rsBible.Fields(1).Value(), rsBible.Fields(2).Value(),
-                rsBible.Fields(3).Value());
-        }));
-        EXPECT_FALSE(rsBible.NoMatch());
-        EXPECT_EQ(position(), place);
-    }
-
-    // The page, the title, the lists, the heading and the pane of the note all show one verse.
-    static void expectPlace(const QString& reference, const QString& place, const QString& note) {
-        EXPECT_EQ(position(), place);
-        EXPECT_TRUE(main().txtMain.Text().startsWith(reference)) << reference.toStdString();
-        EXPECT_EQ(main().Caption(), u"Lumenvia Professional King James ["_s + reference + u"] "_s);
-        EXPECT_EQ(main().lblCurrentNote.Caption(), u"Your note for: "_s + reference);
-        EXPECT_EQ(main().txtNote.Text(), note);
-    }
-};
+class NoteSearch : public NoteSearchFixture {};
 
 } // namespace
 
@@ -206,28 +134,6 @@ TEST_F(NoteSearch, anEmptyTextMatchesEveryNoteThatIsNotNull) {
     });
 }
 
-TEST_F(NoteSearch, aSingleQuoteEndsInTheErrorOfTheStoreAndCloses) {
-    rsBible.Seek(u"="_s, 40, 2, 3);
-    OpenBibleDynaset();
-    QString reason;
-    try {
-        rsBible.FindFirst(u"note like '*it's*'"_s);
-    } catch (const Error& error) {
-        reason = error.text();
-    }
-    OpenBibleTable();
-    rsBible.Seek(u"="_s, 40, 2, 3);
-    open([&] {
-        window().txtNoteSearch.setText(u"it's"_s);
-        desktop.expectMessage(
-            {u"Error in Note Search: "_s + reason, u"Error"_s, MessageIcon::Information});
-        press(First);
-        EXPECT_FALSE(isLoaded<frmNoteSearch>());
-    });
-    expectPlace(u"Matthew 2:3"_s, u"40:2:3"_s, u" "_s);
-    EXPECT_EQ(main().cursor().shape(), Qt::ArrowCursor);
-}
-
 TEST_F(NoteSearch, aQuoteThatHappensToStayWellFormedIsTakenAsItIs) {
     open([this] {
         window().txtNoteSearch.setText(u"none*' or note like '*last"_s);
@@ -292,6 +198,59 @@ TEST_F(NoteSearch, aNoteTypedAfterwardsGoesToTheVerseThatWasFound) {
     QTest::keyClicks(&main().txtNote, u"new "_s);
     rsBible.Seek(u"="_s, 40, 1, 7);
     EXPECT_EQ(rsBible.Fields(5).Value().toString(), u"new my thought, 100% _ok_ [a] #1?"_s);
+}
+
+TEST_F(NoteSearch, theHeadingNamesTheVerseAlsoWhereTheUserHidesTheNotes) {
+    HideNotes = On;
+    open([] {
+        window().txtNoteSearch.setText(u"thought"_s);
+        press(First);
+        EXPECT_EQ(main().lblCurrentNote.Caption(), u"Your note for: Genesis 1:5"_s);
+        press(Next);
+        EXPECT_EQ(main().lblCurrentNote.Caption(), u"Your note for: Psalms 119:176"_s);
+        press(Close);
+    });
+    EXPECT_EQ(main().lblCurrentNote.Caption(), u"Your note for: Psalms 119:176"_s);
+}
+
+TEST_F(NoteSearch, anErrorAtItsCloseIsToldAndClosesItAllTheSame) {
+    rsBible.MoveLast();
+    rsBible.MoveNext();
+    QString reason;
+    try {
+        rsBible.Fields(0).Value();
+    } catch (const Error& error) {
+        reason = error.text();
+    }
+    open([&] {
+        desktop.expectMessage(
+            {u"Error in Note Search: "_s + reason, u"Error"_s, MessageIcon::Information});
+        press(Close);
+        EXPECT_FALSE(isLoaded<frmNoteSearch>());
+    });
+    EXPECT_EQ(main().cursor().shape(), Qt::ArrowCursor);
+    EXPECT_FALSE(main().txtMain.Text().isEmpty());
+}
+
+TEST_F(NoteSearch, standsInTheLowerRightCorner) {
+    open([] {
+        const QRect screen = window().screen()->geometry();
+        EXPECT_EQ(window().x(), screen.width() - window().width() - twips(100));
+        EXPECT_EQ(window().y(), screen.height() - twips(390) - window().height());
+        press(Close);
+    });
+}
+
+TEST_F(NoteSearch, theFocusGoesFromLeftToRight) {
+    open([] {
+        EXPECT_EQ(firstFocus(window()), u"txtNoteSearch"_s);
+        EXPECT_EQ(
+            focusOrder(window().txtNoteSearch),
+            (QStringList{
+                u"txtNoteSearch"_s, u"cmdNoteSearch(2)"_s, u"cmdNoteSearch(0)"_s,
+                u"cmdNoteSearch(3)"_s, u"cmdNoteSearch(1)"_s, u"cmdHelp"_s}));
+        press(Close);
+    });
 }
 
 TEST_F(NoteSearch, helpShowsItsTopic) {

@@ -1,18 +1,15 @@
 // The query window on a small translation of which six verses are made up for it.
 #pragma once
 
-#include "Configuration.h"
 #include "basic/Error.h"
 #include "core/BookNames.h"
-#include "core/Catalogue.h"
 #include "core/GlobalCode.h"
 #include "core/Settings.h"
-#include "desktop/HostPath.h"
 #include "reader/frmMain.h"
+#include "search/SearchTexts.h"
 #include "search/frmQuery.h"
 #include "support/ProgramFixture.h"
 
-#include <QFile>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -73,11 +70,6 @@ protected:
             window().txtQuery(1).setText(second);
             ok();
         });
-    }
-
-    QByteArray fileContent() const {
-        QFile file(programFile(u"KJV.mdb"_s));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
     // Whether a body holds a text in which "*" stands for any run of characters.

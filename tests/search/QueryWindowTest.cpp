@@ -1,4 +1,5 @@
 // The query window: what it says, its lists, its keys and its memory.
+#include "search/FocusOrder.h"
 #include "search/QueryFixture.h"
 
 namespace {
@@ -109,6 +110,29 @@ TEST_F(QueryWindow, aPickedBookGivesTheFocusToTheFirstWord) {
         EXPECT_EQ(form.cboScope.ListIndex(), 0);
         EXPECT_TRUE(form.txtQuery(0).hasFocus());
         EXPECT_EQ(form.txtQuery(0).selectedText(), u"light"_s);
+        cancel();
+    });
+}
+
+TEST_F(QueryWindow, aWordThatGetsTheFocusIsSelected) {
+    open([] {
+        for (const int word : {1, 0}) {
+            window().txtQuery(word).setText(u"light"_s);
+            window().txtQuery(word).SetFocus();
+            EXPECT_EQ(window().txtQuery(word).selectedText(), u"light"_s) << word;
+        }
+        cancel();
+    });
+}
+
+TEST_F(QueryWindow, theFocusGoesFromTopToBottom) {
+    open([] {
+        EXPECT_EQ(
+            focusOrder(window().txtQuery(0)),
+            (QStringList{
+                u"txtQuery(0)"_s, u"txtQuery(1)"_s, u"optAndOr(0)"_s, u"optAndOr(1)"_s,
+                u"chkMatchCase"_s, u"cboScope"_s, u"cboBook"_s, u"cmdQuery(0)"_s, u"cmdQuery(3)"_s,
+                u"cmdHelp"_s}));
         cancel();
     });
 }

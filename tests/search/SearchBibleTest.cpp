@@ -87,15 +87,19 @@ protected:
         return places;
     }
 
-    // Every hit of the advanced search for both words.
-    Places advancedHits(const QString& first, const QString& second, bool whole) {
+    // Every hit of the advanced search for two words.
+    Places advancedHits(
+        const QString& first, const QString& second, bool both, bool whole, int testament = 0,
+        int book = 0) {
         Places places;
         desktop.expectWindow([&](QWidget& opened) {
             auto& find = static_cast<frmHolyTextFind&>(opened);
             find.txtFind(0).setText(first);
             find.txtFind(1).setText(second);
-            find.optAndOr(0).setValue(true);
+            find.optAndOr(both ? 0 : 1).setValue(true);
             find.chkMatchWholeWord.setValue(whole);
+            find.cboTestament.setListIndex(testament);
+            find.cboBook.setListIndex(book);
             desktop.expectMessage(
                 {u"No verses found from this point FORWARD.\r\n\r\n"
                  u"Would you like to search from the beginning of the Bible?"_s,
@@ -152,7 +156,7 @@ TEST_F(SearchBible, aScopeLimitsTheSimpleSearch) {
 }
 
 TEST_F(SearchBible, theAdvancedSearchBindsAndToTheLastAlternative) {
-    const Places hits = advancedHits(u"love"_s, u"hate"_s, true);
+    const Places hits = advancedHits(u"love"_s, u"hate"_s, true, true);
     EXPECT_EQ(hits.size(), 241);
     EXPECT_EQ(hits, versesThat([](const QString& text) {
                   return holdsWord(text, u"love"_s, u" .:;"_s)
@@ -162,9 +166,34 @@ TEST_F(SearchBible, theAdvancedSearchBindsAndToTheLastAlternative) {
 }
 
 TEST_F(SearchBible, theAdvancedSearchFindsBothPlainWords) {
-    EXPECT_EQ(advancedHits(u"grace"_s, u"peace"_s, false), versesThat([](const QString& text) {
-                  return holds(text, u"grace"_s) && holds(text, u"peace"_s);
-              }));
+    EXPECT_EQ(
+        advancedHits(u"grace"_s, u"peace"_s, true, false), versesThat([](const QString& text) {
+            return holds(text, u"grace"_s) && holds(text, u"peace"_s);
+        }));
+}
+
+TEST_F(SearchBible, theAdvancedSearchFindsEitherWordInEveryScope) {
+    for (const bool whole : {false, true}) {
+        const Places all = versesThat([whole](const QString& text) {
+            const auto isThere = [&](const QString& word) {
+                return whole ? holdsWord(text, word, u" .:;,"_s) : holds(text, word);
+            };
+            return isThere(u"lamp"_s) || isThere(u"olive"_s);
+        });
+        const auto inBooks = [&](int first, int last) {
+            Places places = all;
+            places.removeIf([&](const QString& place) {
+                const int book = place.section(u':', 0, 0).toInt();
+                return book < first || book > last;
+            });
+            return places;
+        };
+        EXPECT_GT(all.size(), 20);
+        EXPECT_EQ(advancedHits(u"lamp"_s, u"olive"_s, false, whole), all);
+        EXPECT_EQ(advancedHits(u"lamp"_s, u"olive"_s, false, whole, 1), inBooks(1, 39));
+        EXPECT_EQ(advancedHits(u"lamp"_s, u"olive"_s, false, whole, 2), inBooks(40, 66));
+        EXPECT_EQ(advancedHits(u"lamp"_s, u"olive"_s, false, whole, 0, 2), inBooks(2, 2));
+    }
 }
 
 TEST_F(SearchBible, theFindBarWalksTheSameVersesInBothDirections) {

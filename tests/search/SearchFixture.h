@@ -15,6 +15,23 @@ protected:
         QCoreApplication::processEvents();
     }
 
+    // Starts the program on other verses.
+    void startOn(const Verses& verses) {
+        addTranslation(QStringLiteral("KJV.mdb"), verses);
+        restartProgram();
+        QCoreApplication::processEvents();
+    }
+
+    // Puts the verses that hold a text in the place of the cursor, as a query does, which stays on.
+    static void beInQuery(const QString& text) {
+        rsBible = dbBible.OpenRecordset(
+            QStringLiteral("SELECT * FROM tblMain WHERE (((body like \"*%1*\")) )").arg(text),
+            dbOpenDynaset);
+        InQuery = On;
+        QueryLock = On;
+        window().enableLists(false);
+    }
+
     static Verses graceVerses() {
         return {
             {1, 1, 1, QStringLiteral("In the beginning grace was there.")},

@@ -1,53 +1,11 @@
-#include "search/frmSimpleFind.h"
-
-#include "search/SearchFixture.h"
-
-#include <QTest>
-#include <functional>
+// The simple search: what it searches for, what it finds, and where it leaves the reader.
+#include "search/SimpleFindFixture.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-enum Press { First, Next, Previous, Close };
-
-class SimpleFind : public SearchFixture {
-protected:
-    // Opens the window from the menu; the action plays its user and must close it.
-    void inWindow(const std::function<void(frmSimpleFind&)>& user) {
-        desktop.expectWindow([&](QWidget& opened) { user(static_cast<frmSimpleFind&>(opened)); });
-        window().mnuSearch(3).trigger();
-        EXPECT_FALSE(isLoaded<frmSimpleFind>());
-    }
-
-    static void press(frmSimpleFind& find, Press button) { find.cmdFind(button).setValue(true); }
-
-    static void search(frmSimpleFind& find, const QString& text, Press button = Next) {
-        find.txtFind.setText(text);
-        press(find, button);
-    }
-
-    void expectNotFound(Answer answer) {
-        desktop.expectMessage(
-            {u"After the current verse no verses were found.\r\n\r\n"
-             u"Would you like to search from the beginning of the Bible (Genesis)?"_s,
-             u"Not Found"_s, MessageIcon::Question, MessageButtons::YesNo},
-            answer);
-    }
-
-    void expectBeginning() {
-        desktop.expectMessage(
-            {u"The current verse is now at the beginning of the Bible. Press Find Next to "
-             u"continue."_s,
-             u""_s, MessageIcon::Information});
-    }
-
-    void expectNoneBefore(const QString& text) {
-        desktop.expectMessage(
-            {u"Prior to the current verse no other contained the text: \n"_s + text,
-             u"No More Found"_s, MessageIcon::Information});
-    }
-};
+class SimpleFind : public SimpleFindFixture {};
 
 } // namespace
 
@@ -81,27 +39,6 @@ TEST_F(SimpleFind, takesTheWordAsTyped) {
     inWindow([](frmSimpleFind& find) {
         find.txtFind.setText(u" a\"'*?# "_s);
         EXPECT_EQ(find.MakeSimpleSQL(), u" (( body like \"* a\"'*?# *\"))"_s);
-        press(find, Close);
-    });
-}
-
-TEST_F(SimpleFind, opensWithTheFindBarsWordSelected) {
-    window().txtFind.setText(u"peace"_s);
-    inWindow([](frmSimpleFind& find) {
-        EXPECT_EQ(find.txtFind.selectedText(), u"peace"_s);
-        EXPECT_EQ(find.Caption(), u"Simple Search of Verses"_s);
-        EXPECT_EQ(find.cboTestament.ListIndex(), 0);
-        EXPECT_EQ(find.cboBook.ListIndex(), 0);
-        EXPECT_EQ(find.cboBook.ListCount(), 67);
-        EXPECT_EQ(find.cboBook.List(0), u"Any"_s);
-        EXPECT_EQ(find.cboBook.List(40), u"Matthew"_s);
-        EXPECT_FALSE(find.Repositioned);
-        EXPECT_EQ(position(), u"1:1:1"_s);
-        press(find, Close);
-    });
-    window().txtFind.setText(u"p"_s);
-    inWindow([](frmSimpleFind& find) {
-        EXPECT_EQ(find.txtFind.Text(), QString());
         press(find, Close);
     });
 }
@@ -243,97 +180,88 @@ TEST_F(SimpleFind, findFirstStartsAnewAndIsNeverShown) {
     });
 }
 
-TEST_F(SimpleFind, aTestamentLeavesNoChoiceOfABook) {
-    inWindow([](frmSimpleFind& find) {
-        find.cboBook.setListIndex(5);
-        find.cboTestament.setListIndex(2);
-        EXPECT_EQ(find.cboBook.ListIndex(), 0);
-        EXPECT_FALSE(find.cboBook.Enabled());
-        find.Repositioned = true;
-        find.cboTestament.setListIndex(0);
-        EXPECT_TRUE(find.cboBook.Enabled());
-        EXPECT_FALSE(find.Repositioned);
-        find.Repositioned = true;
-        find.cboBook.setListIndex(5);
-        EXPECT_FALSE(find.Repositioned);
-        EXPECT_EQ(find.cboTestament.ListIndex(), 0);
-        press(find, Close);
-    });
-}
-
-TEST_F(SimpleFind, aBookSetsTheTestamentBack) {
-    inWindow([](frmSimpleFind& find) {
-        find.cboTestament.setListIndex(1);
-        find.cboBook.setListIndex(3);
-        EXPECT_EQ(find.cboTestament.ListIndex(), 0);
-        press(find, Close);
-    });
-}
-
-TEST_F(SimpleFind, aWordThatSpoilsTheCriteriaShowsNothing) {
-    inWindow([](frmSimpleFind& find) {
+TEST_F(SimpleFind, theWrapStartsBehindGenesisOneOne) {
+    inWindow([this](frmSimpleFind& find) {
         search(find, u"begins"_s);
-        for (const QString& text : {u"\"\""_s, u"a\"b"_s, u"\" or 1=1"_s, u"x\" (("_s}) {
-            for (const Press button : {First, Next, Previous}) {
-                search(find, text, button);
-                EXPECT_EQ(listed(), u"Matthew 1 2"_s);
-                EXPECT_EQ(position(), u"40:1:2"_s);
-                EXPECT_EQ(find.Caption(), u"Simple Search of Verses"_s);
-            }
-        }
+        expectNotFound(Answer::Yes);
+        expectBeginning();
+        press(find, Next);
+        EXPECT_EQ(position(), u"1:1:1"_s);
+        EXPECT_EQ(listed(), u"Genesis 1 1"_s);
+        search(find, u"grace"_s);
+        EXPECT_EQ(position(), u"1:1:2"_s);
+        expectNotFound(Answer::No);
+        search(find, u"In the beginning"_s);
+        EXPECT_EQ(position(), u"1:1:2"_s);
+        press(find, Close);
+    });
+}
+
+TEST_F(SimpleFind, theWrapKeepsATestament) {
+    inWindow([this](frmSimpleFind& find) {
+        find.cboTestament.setListIndex(2);
+        search(find, u"lord"_s);
+        expectNotFound(Answer::Yes);
+        expectBeginning();
+        press(find, Next);
+        EXPECT_EQ(find.cboTestament.ListIndex(), 2);
+        EXPECT_EQ(listed(), u"Genesis 1 1"_s);
+        // The list of books stood on its first row, and so the scope is not fresh.
+        EXPECT_TRUE(find.Repositioned);
+        search(find, u"grace"_s);
+        EXPECT_EQ(position(), u"40:1:1"_s);
+        press(find, Close);
+    });
+}
+
+TEST_F(SimpleFind, aWordOnlyInTheFirstVerseIsMissed) {
+    inWindow([this](frmSimpleFind& find) {
+        expectNotFound(Answer::No);
+        search(find, u"In the beginning"_s);
+        EXPECT_EQ(position(), u"1:1:1"_s);
+        press(find, Close);
+    });
+}
+
+TEST_F(SimpleFind, aWholeWordBeforeAQuestionMarkOrAtTheStartIsMissed) {
+    inWindow([this](frmSimpleFind& find) {
+        find.chkMatchWholeWord.setValue(true);
+        find.cboBook.setListIndex(2);
+        expectNotFound(Answer::No);
+        search(find, u"grace"_s);
+        find.cboBook.setListIndex(40);
+        expectNotFound(Answer::No);
+        search(find, u"grace"_s);
+        EXPECT_EQ(position(), u"40:1:1"_s);
+        press(find, Close);
+    });
+}
+
+TEST_F(SimpleFind, searchesTheRedLettersPrefixToo) {
+    Verses verses = graceVerses();
+    verses[7].body = QChar(30) + u"000 005grace begins this one."_s;
+    startOn(verses);
+    inWindow([](frmSimpleFind& find) {
+        search(find, u"000 005"_s);
+        EXPECT_EQ(position(), u"40:1:2"_s);
         press(find, Close);
     });
     EXPECT_EQ(pageTop(), u"Matthew 1:2 grace begins this one."_s);
-    expectReadingAgain();
 }
 
-TEST_F(SimpleFind, oddWordsFindNothing) {
-    inWindow([this](frmSimpleFind& find) {
-        for (const QString& text :
-             {u"'grace'"_s, u"gr?ce"_s, u"gr#ce"_s, u"[g]race"_s, u"gr\\ace"_s, u"gr%ce"_s,
-              u"gr_ce"_s, u"' or 1=1"_s, u"   "_s, u"благодать"_s, QString(5000, u'g')}) {
-            expectNotFound(Answer::No);
-            search(find, text);
-            EXPECT_EQ(position(), u"1:1:1"_s);
-        }
-        press(find, Close);
-    });
-}
-
-TEST_F(SimpleFind, isClosedByEscapeTitleBarAndButton) {
-    for (const int way : {0, 1, 2}) {
-        inWindow([way](frmSimpleFind& find) {
-            search(find, u"begins"_s);
-            if (way == 0)
-                QTest::keyClick(&find.txtFind, Qt::Key_Escape);
-            else if (way == 1)
-                find.close();
-            else
-                QTest::mouseClick(&find.cmdFind(Close), Qt::LeftButton);
-        });
-        EXPECT_EQ(pageTop(), u"Matthew 1:2 grace begins this one."_s);
-        expectReadingAgain();
-    }
-}
-
-TEST_F(SimpleFind, enterFindsTheNextAndOtherKeysTheirButtons) {
+TEST_F(SimpleFind, findFirstInTheOldTestamentGoesOnFromTheCursor) {
     inWindow([](frmSimpleFind& find) {
-        QTest::keyClicks(&find.txtFind, u"grace"_s);
-        QTest::keyClick(&find.txtFind, Qt::Key_Return);
-        EXPECT_EQ(position(), u"1:1:2"_s);
-        QTest::keyClick(&find.cmdFind(Next), Qt::Key_Return);
-        QTest::keyClick(&find.cmdFind(Previous), Qt::Key_Return);
-        EXPECT_EQ(position(), u"1:1:2"_s);
+        find.cboTestament.setListIndex(1);
+        for (const QString& place : {u"1:1:2"_s, u"1:1:3"_s, u"2:1:1"_s}) {
+            search(find, u"grace"_s, First);
+            EXPECT_EQ(position(), place);
+        }
         press(find, Close);
     });
 }
 
 TEST_F(SimpleFind, closingEndsAQuery) {
-    rsBible = dbBible.OpenRecordset(
-        u"SELECT * FROM tblMain WHERE (((body like \"*peace*\")) )"_s, dbOpenDynaset);
-    InQuery = On;
-    QueryLock = On;
-    window().enableLists(false);
+    beInQuery(u"peace"_s);
     inWindow([](frmSimpleFind& find) {
         search(find, u"begins"_s);
         press(find, Close);
@@ -348,47 +276,6 @@ TEST_F(SimpleFind, onAHitThatTheListLacksTheBookFollows) {
         search(find, u"at last"_s);
         EXPECT_EQ(window().cboBook.Text() + window().cboChapter.Text(), u"Psalms119"_s);
         EXPECT_EQ(SettingCombos, Off);
-        press(find, Close);
-    });
-}
-
-TEST_F(SimpleFind, itsDeactivationClosesItOnTheDynaset) {
-    inWindow([](frmSimpleFind& find) {
-        search(find, u"begins"_s);
-        find.Form_Deactivate();
-    });
-    EXPECT_EQ(pageTop(), u"Matthew 1:2 grace begins this one."_s);
-    EXPECT_THROW(rsBible.Seek(u"="_s, 1, 1, 1), std::exception);
-}
-
-TEST_F(SimpleFind, helpOpensItsTopic) {
-    inWindow([this](frmSimpleFind& find) {
-        find.cmdHelp.setValue(true);
-        EXPECT_TRUE(desktop.shownHelp.constLast().endsWith(u" 12"_s));
-        press(find, Close);
-    });
-}
-
-TEST_F(SimpleFind, itsControlsSayWhatTheyAreFor) {
-    inWindow([](frmSimpleFind& find) {
-        EXPECT_EQ(find.fraMain.Caption(), u"Find what"_s);
-        EXPECT_EQ(find.fraScope.Caption(), u"Scope of Search"_s);
-        EXPECT_EQ(find.txtFind.ToolTipText(), u"Enter search word here."_s);
-        EXPECT_EQ(find.chkMatchWholeWord.Caption(), u"Match Whole Word"_s);
-        EXPECT_EQ(
-            find.chkMatchWholeWord.ToolTipText(),
-            u"Only the whole world will be searched. (Slower performance)"_s);
-        EXPECT_EQ(find.cboTestament.List(0), u"Search Both New and Old"_s);
-        EXPECT_EQ(find.cboTestament.List(1), u"Search Old Testament ONLY"_s);
-        EXPECT_EQ(find.cboTestament.List(2), u"Search New Testament ONLY"_s);
-        EXPECT_EQ(find.cboTestament.ToolTipText(), u"Search only the Old or New Testament."_s);
-        EXPECT_EQ(find.cboBook.ToolTipText(), u"Search only a specific book"_s);
-        EXPECT_EQ(find.cmdFind(Next).Caption(), u"Find &Next"_s);
-        EXPECT_EQ(find.cmdFind(Previous).ToolTipText(), u"Find previous verse with this text"_s);
-        EXPECT_EQ(find.cmdHelp.ToolTipText(), u"Tool Overview"_s);
-        EXPECT_EQ(find.lblFindWhat(0).Caption(), u"Testament"_s);
-        EXPECT_EQ(find.lblFindWhat(1).Caption(), QString());
-        EXPECT_EQ(find.lblFindWhat(2).Caption(), u"Book"_s);
         press(find, Close);
     });
 }

@@ -16,3 +16,10 @@ TEST_F(Working, asksForAMomentOverAnEmptyBar) {
     EXPECT_EQ(window.lblWorking.Caption(), u"One Moment Please..."_s);
     EXPECT_LE(window.pbWorking.Value(), 0);
 }
+
+TEST_F(Working, comesUpWithoutTakingTheKeyboard) {
+    frmWorking window;
+    window.Show();
+    EXPECT_TRUE(window.isVisible() && window.isLoaded());
+    EXPECT_TRUE(window.testAttribute(Qt::WA_ShowWithoutActivating));
+}
