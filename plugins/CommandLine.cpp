@@ -1,19 +1,25 @@
 #include "CommandLine.h"
 
 #include "Configuration.h"
+#include "Importing.h"
 #include "Workshop.h"
+#include "basic/Error.h"
+#include "check/Check.h"
 #include "desktop/HostPath.h"
+#include "jet/JetConversion.h"
 
 #include <CLI/CLI.hpp>
 #include <QDir>
+#include <ranges>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr const char* Footer =
-    "Files that are there already stay as they are: the user's notes live in them.\n"
-    "Exit codes: 0 all is made, 1 something could not be made, 2 wrong use.";
+    "The user's notes live in the data files: one that is there already stays as it is, or hands\n"
+    "its notes on to the one that takes its place.\n"
+    "Exit codes: 0 all is well, 1 something could not be made or is wrong, 2 wrong use.";
 
 constexpr const char* ForceHelp =
     "Make translations anew that are there already. Their notes are carried over, red-letter marks "
@@ -21,19 +27,35 @@ constexpr const char* ForceHelp =
 
 const QString AllWorks = u"all"_s;
 
+constexpr const char* ImportHelp = "Make a translation of a text of your own: a SWORD module, "
+                                   "OSIS, USFM (a file or a folder), USX, "
+                                   "USFX, Zefania XML, delimited text, or a Jet database";
+
 // The options as typed.
 struct Options {
     std::vector<std::string> works;
+    std::string file;
+    std::string work;
     std::string folder;
     std::string moduleFolder;
     bool force = false;
 };
 
-QStringList workNames() {
+bool hasSource(const Work& work) {
+    return work.maker != nullptr;
+}
+
+bool isTranslation(const Work& work) {
+    return work.tables == "tblMain"_L1;
+}
+
+QStringList namesOf(bool (*isMeant)(const Work&)) {
     QStringList names;
-    for (const Work& work : works())
-        names.append(work.name);
-    return names << AllWorks;
+    for (const Work& work : works()) {
+        if (isMeant(work))
+            names.append(work.name);
+    }
+    return names;
 }
 
 // What is wrong with the name of a work; empty for nothing.
@@ -42,22 +64,32 @@ std::string checkWork(const std::string& name) {
     if (findWork(typed) || typed.compare(AllWorks, Qt::CaseInsensitive) == 0)
         return {};
     return u"\"%1\" is not a work that this program makes. It makes: %2."_s
-        .arg(typed, workNames().join(u", "_s))
+        .arg(typed, (namesOf(hasSource) << AllWorks).join(u", "_s))
         .toStdString();
 }
 
-// Each work once, in the order of the command line.
+std::string checkTranslation(const std::string& name) {
+    const QString typed = QString::fromStdString(name);
+    const Work* work = findWork(typed);
+    if (work && isTranslation(*work))
+        return {};
+    return u"\"%1\" is not a translation of the catalogue. These are: %2."_s
+        .arg(typed, namesOf(isTranslation).join(u", "_s))
+        .toStdString();
+}
+
+// Each work once, in the order of the command line; all those with a source stand for "all".
 QList<const Work*> chosenWorks(const std::vector<std::string>& names) {
     QList<const Work*> chosen;
-    const auto choose = [&chosen](const Work* work) {
-        if (!chosen.contains(work))
-            chosen.append(work);
+    const auto choose = [&chosen](const Work& work) {
+        if (!chosen.contains(&work))
+            chosen.append(&work);
     };
     for (const std::string& name : names) {
         if (const Work* work = findWork(QString::fromStdString(name)))
-            choose(work);
+            choose(*work);
         else
-            std::ranges::for_each(works(), [&choose](const Work& each) { choose(&each); });
+            std::ranges::for_each(works() | std::views::filter(hasSource), choose);
     }
     return chosen;
 }
@@ -98,6 +130,42 @@ CLI::App* addMake(CLI::App& app, Options& options) {
     return make;
 }
 
+CLI::App* addImport(CLI::App& app, Options& options) {
+    CLI::App* import = app.add_subcommand("import", ImportHelp);
+    import->add_option("FILE-OR-FOLDER", options.file, "The text")->required()->type_name("");
+    import->add_option("--as", options.work, "The translation of the catalogue that it stands for")
+        ->required()
+        ->check(CLI::Validator(checkTranslation, std::string(), std::string()))
+        ->type_name("WORK");
+    addFolderOption(*import, options);
+    return import;
+}
+
+CLI::App* addFileCommand(CLI::App& app, const char* name, const char* help, Options& options) {
+    CLI::App* command = app.add_subcommand(name, help);
+    command->add_option("FILE", options.file, "The data file")->required()->type_name("");
+    return command;
+}
+
+bool importFile(const Options& options, Console& console) {
+    const Work* work = findWork(QString::fromStdString(options.work));
+    return importText(
+        {QString::fromStdString(options.file), work->file, workshopOptions(options).folder},
+        console);
+}
+
+// Says nothing but the path of the file to open.
+bool convertFile(const Options& options, Console& console) {
+    try {
+        const QString file = hostPath(QString::fromStdString(options.file));
+        writeLine(console.out, convertJetFile(file));
+        return true;
+    } catch (const Error& error) {
+        writeLine(console.errors, error.text());
+        return false;
+    }
+}
+
 std::string versionText() {
     return u"lumenvia-plugins %1.%2.%3"_s.arg(configuration::VersionMajor)
         .arg(configuration::VersionMinor)
@@ -109,14 +177,19 @@ std::string versionText() {
 
 ExitCode runCommandLine(const QStringList& arguments, Console& console) {
     Options options;
-    CLI::App app(
-        "Makes the data files of Lumenvia from openly licensed texts.", "lumenvia-plugins");
+    CLI::App app("Makes the data files of Lumenvia, and looks after them.", "lumenvia-plugins");
     app.footer(Footer);
     app.set_version_flag("--version", versionText());
     app.require_subcommand(1);
     CLI::App* make = addMake(app, options);
+    CLI::App* import = addImport(app, options);
     CLI::App* list = app.add_subcommand("list", "List the works: what is there, and its source");
     addFolderOption(*list, options);
+    CLI::App* check = addFileCommand(
+        app, "check", "Say what a data file holds and what is wrong with it", options);
+    CLI::App* convert = addFileCommand(
+        app, "convert", "Convert a Jet database in its place; the original is kept beside it",
+        options);
     std::vector<std::string> reversed(arguments.size());
     std::transform(
         arguments.rbegin(), arguments.rend(), reversed.begin(),
@@ -126,9 +199,16 @@ ExitCode runCommandLine(const QStringList& arguments, Console& console) {
     } catch (const CLI::ParseError& error) {
         return app.exit(error, console.out, console.errors) == 0 ? AllMade : WrongUse;
     }
+    const auto outcome = [](bool isWell) { return isWell ? AllMade : SomethingNotMade; };
+    if (import->parsed())
+        return outcome(importFile(options, console));
+    if (check->parsed())
+        return outcome(checkDataFile(QString::fromStdString(options.file), console));
+    if (convert->parsed())
+        return outcome(convertFile(options, console));
     Workshop workshop(workshopOptions(options), console);
     if (make->parsed())
-        return workshop.make(chosenWorks(options.works)) ? AllMade : SomethingNotMade;
+        return outcome(workshop.make(chosenWorks(options.works)));
     workshop.list();
     return AllMade;
 }

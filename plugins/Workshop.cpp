@@ -1,25 +1,51 @@
 #include "Workshop.h"
 
+#include "DataFolder.h"
 #include "Interruption.h"
-#include "Progress.h"
+#include "basic/Conversion.h"
 #include "basic/Error.h"
 #include "desktop/HostPath.h"
+#include "store/Workspace.h"
 
 #include <QDir>
-#include <QElapsedTimer>
-#include <QFileInfo>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-void makeFolder(const QString& folder) {
-    if (!QDir().mkpath(folder))
-        throw Error(Error::PathAccess, u"The folder %1 cannot be made."_s.arg(folder));
+// A line of the table of works: columns, and a text of any length behind them.
+QString listLine(const QStringList& columns, const QString& rest) {
+    static constexpr std::array Widths{10, 14, 9, 8, 36};
+    QString line;
+    for (qsizetype column = 0; column < columns.size(); ++column)
+        line.append(columns[column].leftJustified(Widths[size_t(column)]));
+    return line + rest;
 }
 
-QString column(QStringView text, int width) {
-    return text.toString().leftJustified(width);
+QString sourceOf(const Work& work) {
+    if (!work.maker)
+        return u"your own file"_s;
+    return work.packages.isEmpty() ? u"(none)"_s : QString(work.packages);
+}
+
+// What a data file that is there holds.
+struct FileSummary {
+    int rows = 0;
+    QString licence; // its first line; empty where the file does not say
+};
+
+FileSummary summaryOf(const QString& path, const Work& work) {
+    Workspace workspace = DBEngine::CreateWorkspace(u"List"_s, u"Admin"_s, {});
+    Database database = workspace.OpenDatabase(path, OpenMode::ReadOnly);
+    FileSummary summary;
+    for (const QString& table : QString(work.tables).split(u' '))
+        summary.rows += database.OpenRecordset(table, dbOpenTable).RecordCount();
+    attempt([&] {
+        Recordset info = database.OpenRecordset(u"tblInfo"_s, dbOpenTable);
+        summary.licence = toText(info.Fields(u"licence"_s).Value()).section(u'\n', 0, 0).trimmed();
+    });
+    return summary;
 }
 
 } // namespace
@@ -32,13 +58,13 @@ Workshop::Workshop(const WorkshopOptions& options, Console& console)
 
 bool Workshop::make(const QList<const Work*>& works) {
     try {
-        makeFolder(m_options.folder);
+        madeFolder(m_options.folder);
         bool allMade = true;
         for (const Work* work : works)
             allMade = makeWork(*work) && allMade;
         return allMade;
     } catch (const Interrupted&) {
-        writeLine(m_console.errors, u"Stopped. What was not finished has left nothing behind."_s);
+        writeLine(m_console.errors, StoppedByUser);
     } catch (const Error& error) {
         writeLine(m_console.errors, error.text());
     }
@@ -46,7 +72,14 @@ bool Workshop::make(const QList<const Work*>& works) {
 }
 
 bool Workshop::makeWork(const Work& work) {
-    const Order order = orderFor(work);
+    if (!work.maker) {
+        writeLine(
+            m_console.errors,
+            u"%1 cannot be made: no openly licensed text of it is known. A file of your own can "
+            u"be imported: lumenvia-plugins import FILE --as %2"_s.arg(work.file, work.name));
+        return false;
+    }
+    const Order order = orderFor(m_options.folder, work.file);
     if (order.replaces && (work.isTheUsers || !m_options.force)) {
         const QString way = work.isTheUsers ? QString() : u"; --force makes it anew"_s;
         writeLine(
@@ -55,7 +88,8 @@ bool Workshop::makeWork(const Work& work) {
         return true;
     }
     try {
-        makeFile(work, order);
+        const auto open = [this, &work] { return work.maker(m_options.moduleFolders); };
+        makeAndTell(work.file, order, open, m_console);
         return true;
     } catch (const Error& error) {
         writeLine(m_console.errors, u"%1 was not made: %2"_s.arg(work.file, error.text()));
@@ -63,39 +97,27 @@ bool Workshop::makeWork(const Work& work) {
     }
 }
 
-void Workshop::makeFile(const Work& work, const Order& order) {
-    QElapsedTimer clock;
-    clock.start();
-    MadeFile made;
-    {
-        Progress progress(m_console, work.file);
-        made = work.maker(work, m_options.moduleFolders)->make(order, progress);
-    }
-    const QString seconds = QString::number(double(clock.elapsed()) / 1000, 'f', 1);
-    for (const QString& remark : made.remarks)
-        writeLine(m_console.out, u"%1: %2"_s.arg(work.file, remark));
-    writeLine(
-        m_console.out, u"%1: %2 rows, %3 s"_s.arg(order.path, QString::number(made.rows), seconds));
-}
-
-// The program finds its files without regard to case, so a file in another case is the same file.
-Order Workshop::orderFor(const Work& work) const {
-    const QString path = hostPath(m_options.folder + u'/' + work.file);
-    return {path, QFileInfo::exists(path)};
-}
-
 void Workshop::list() const {
-    const auto line = [this](
-                          QStringView name, QStringView file, QStringView state,
-                          QStringView package, QStringView licence) {
-        const QString text = column(name, 10) + column(file, 14) + column(state, 8)
-                             + column(package, 20) + licence.toString();
-        writeLine(m_console.out, text);
-    };
     writeLine(m_console.out, u"Data files in %1:"_s.arg(m_options.folder));
-    line(u"WORK", u"FILE", u"THERE", u"PACKAGE", u"LICENCE");
+    writeLine(
+        m_console.out,
+        listLine({u"WORK"_s, u"FILE"_s, u"THERE"_s, u"ROWS"_s, u"SOURCE"_s}, u"LICENCE"_s));
     for (const Work& work : works())
-        line(
-            QString(work.name), QString(work.file), orderFor(work).replaces ? u"yes" : u"no",
-            work.package.isEmpty() ? u"(none)"_s : QString(work.package), QString(work.licence));
+        writeLine(m_console.out, lineOf(work));
+}
+
+QString Workshop::lineOf(const Work& work) const {
+    const QString source = sourceOf(work);
+    const QString ownFile = work.maker ? QString(work.licence) : u"import FILE --as "_s + work.name;
+    const Order order = orderFor(m_options.folder, work.file);
+    if (!order.replaces)
+        return listLine({work.name, work.file, u"no"_s, u"-"_s, source}, ownFile);
+    try {
+        const FileSummary summary = summaryOf(order.path, work);
+        const QString licence = summary.licence.isEmpty() ? QString(work.licence) : summary.licence;
+        const QString rows = QString::number(summary.rows);
+        return listLine({work.name, work.file, u"yes"_s, rows, source}, licence);
+    } catch (const Error& error) {
+        return listLine({work.name, work.file, u"damaged"_s, u"-"_s, source}, error.text());
+    }
 }

@@ -18,13 +18,12 @@ public:
     // an interrupt ends it.
     bool make(const QList<const Work*>& works);
 
-    // The table of works.
+    // The table of works. A file that cannot be read is told in its line.
     void list() const;
 
 private:
     bool makeWork(const Work& work);
-    void makeFile(const Work& work, const Order& order);
-    Order orderFor(const Work& work) const;
+    QString lineOf(const Work& work) const;
 
     WorkshopOptions m_options;
     Console& m_console;

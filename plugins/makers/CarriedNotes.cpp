@@ -2,6 +2,8 @@
 
 #include "basic/Conversion.h"
 #include "basic/Error.h"
+#include "jet/JetConversion.h"
+#include "jet/JetVerses.h"
 #include "store/DataFile.h"
 #include "store/Workspace.h"
 
@@ -17,7 +19,7 @@ const QString KeptNotes = u"tblKeptNotes"_s;
 
 CarriedNotes::CarriedNotes(const QString& path) {
     try {
-        read(path);
+        read(isJetFile(path) ? convertJetFile(path) : path);
     } catch (const Error& error) {
         throw Error(
             error.number(),
@@ -57,6 +59,11 @@ QString CarriedNotes::take(const VerseAddress& address) {
     m_notes.erase(found);
     ++m_taken;
     return note;
+}
+
+void CarriedNotes::keep(const VerseAddress& address, const QString& note) {
+    if (!note.trimmed().isEmpty())
+        m_notes.emplace(address, note);
 }
 
 void CarriedNotes::keepRest(DataFileWriter& writer) const {

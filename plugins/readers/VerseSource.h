@@ -9,7 +9,8 @@
 
 struct Verse {
     VerseAddress address;
-    QString body; // as it is stored, the red-letter prefix included; never empty
+    QString body;      // as it is stored, the red-letter prefix included; empty only beside a note
+    QString note = {}; // of the source's owner; null for none
 };
 
 // What a data file says of itself.
@@ -26,7 +27,8 @@ public:
     Q_DISABLE_COPY_MOVE(VerseSource)
 
     // The next verse in the order of the source; nothing behind the last one. Each address as the
-    // source numbers it, of one of the 66 books. Error with what is wrong and where.
+    // source numbers it, of one of the 66 books; a note without a verse may have any. Error with
+    // what is wrong and where.
     virtual std::optional<Verse> next() = 0;
 
     // How much of the source has been read, 0 to 1.

@@ -62,11 +62,22 @@ void OsisText::startElement(QStringView name, const QXmlStreamAttributes& attrib
         beginText(kind);
     if (kind == Kind::Book)
         m_bookClosed = !end.isEmpty();
-    m_open.append(start.isEmpty() && end.isEmpty() ? kind : Kind::Plain);
+    open(start.isEmpty() && end.isEmpty() ? kind : Kind::Plain);
     if (!start.isEmpty())
         startMilestone(kind, start);
     if (!end.isEmpty())
         endMilestone(end);
+}
+
+void OsisText::open(Kind kind) {
+    m_open.append(kind);
+    ++m_openOf.at(static_cast<std::size_t>(kind));
+}
+
+OsisText::Kind OsisText::close() {
+    const Kind kind = m_open.takeLast();
+    --m_openOf.at(static_cast<std::size_t>(kind));
+    return kind;
 }
 
 void OsisText::beginText(Kind kind) {
@@ -91,7 +102,7 @@ void OsisText::endMilestone(QStringView id) {
 }
 
 void OsisText::endElement() {
-    const Kind kind = m_open.takeLast();
+    const Kind kind = close();
     if (kind == Kind::Book)
         m_bookClosed = true;
     if (isDropping())
@@ -136,10 +147,10 @@ bool OsisText::onlyQuotationsAreOpen() const {
 }
 
 bool OsisText::isDropping() const {
-    return m_bookClosed || !m_subscription.isEmpty() || m_open.contains(Kind::Dropped)
-           || m_open.contains(Kind::Title);
+    return m_bookClosed || !m_subscription.isEmpty() || isOpen(Kind::Dropped)
+           || isOpen(Kind::Title);
 }
 
 bool OsisText::isRed() const {
-    return !m_spoken.isEmpty() || m_open.contains(Kind::Spoken);
+    return !m_spoken.isEmpty() || isOpen(Kind::Spoken);
 }

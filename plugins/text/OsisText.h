@@ -11,6 +11,7 @@
 #include <QList>
 #include <QSet>
 #include <QXmlStreamAttributes>
+#include <array>
 
 // Whether a blank is missing between a word and an added word that stands glued to it. A text
 // without such a rule is right as it stands.
@@ -34,19 +35,23 @@ public:
     bool onlyQuotationsAreOpen() const;
 
 private:
-    enum class Kind { Plain, Quotation, Spoken, Separate, Title, Dropped, Added, Book };
+    enum class Kind { Plain, Quotation, Spoken, Separate, Title, Dropped, Added, Book, Count };
 
     static Kind kindOf(QStringView name, const QXmlStreamAttributes& attributes);
     void startMilestone(Kind kind, QStringView id);
     void endMilestone(QStringView id);
     void beginText(Kind kind);
     void endAddedWord();
+    void open(Kind kind);
+    Kind close();
+    bool isOpen(Kind kind) const { return m_openOf[static_cast<std::size_t>(kind)] > 0; }
     bool isDropping() const;
     bool isRed() const;
 
     AddedWordRule m_rule;
     MarkedText m_verse;
-    QList<Kind> m_open;        // the elements that are open
+    QList<Kind> m_open; // the elements that are open; and how many there are of each kind
+    std::array<qsizetype, static_cast<std::size_t>(Kind::Count)> m_openOf{};
     QSet<QString> m_spoken;    // the quotations of Christ opened by milestones
     QString m_subscription;    // the subscription opened by a milestone
     qsizetype m_addedAt = -1;  // where an added word stands glued to the word before

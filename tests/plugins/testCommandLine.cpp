@@ -2,10 +2,7 @@
 #include "plugins/SmallModule.h"
 #include "plugins/ToolRun.h"
 
-#include "Works.h"
-
 #include <QFile>
-#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -43,13 +40,6 @@ TEST_F(CommandLineTest, makesTheWorksThatAreNamed) {
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_EQ(filesIn(folder.path()), QStringList({u"KJV.mdb"_s, u"topics.mdb"_s}));
     EXPECT_TRUE(run.errors.isEmpty()) << qPrintable(run.errors);
-}
-
-TEST_F(CommandLineTest, allMakesEveryWorkOfTheTable) {
-    EXPECT_EQ(make({u"all"_s, u"kjv"_s}).exitCode, 0);
-    EXPECT_EQ(filesIn(folder.path()).size(), qsizetype(works().size()));
-    for (const Work& work : works())
-        EXPECT_TRUE(QFileInfo::exists(folder.filePath(work.file))) << work.file.data();
 }
 
 TEST_F(CommandLineTest, endsEachWorkWithFileRowsAndSeconds) {
@@ -154,8 +144,8 @@ TEST_F(CommandLineTest, aMissingModuleNamesItsPackageAndDoesNotHinderTheNextWork
 TEST_F(CommandLineTest, anUnknownWorkIsWrongUse) {
     const ToolRun run = make({u"kjv"_s, u"vulgate"_s});
     EXPECT_EQ(run.exitCode, 2);
-    EXPECT_TRUE(run.errors.contains(u"\"vulgate\" is not a work that this program makes. It makes: "
-                                    u"kjv, spanish, topics, all."_s))
+    EXPECT_TRUE(
+        run.errors.contains(u"\"vulgate\" is not a work that this program makes. It makes: "_s))
         << qPrintable(run.errors);
     EXPECT_TRUE(filesIn(folder.path()).isEmpty());
 }
@@ -181,14 +171,4 @@ TEST_F(CommandLineTest, helpAndVersionAreNoErrors) {
                     .match(version.out)
                     .hasMatch())
         << qPrintable(version.out);
-}
-
-TEST_F(CommandLineTest, listShowsWhatIsThereAndItsSource) {
-    ASSERT_EQ(make({u"kjv"_s}).exitCode, 0);
-    const ToolRun run = runTool({u"list"_s, u"--to"_s, folder.path()});
-    EXPECT_EQ(run.exitCode, 0);
-    const QRegularExpression made(u"kjv +KJV\\.mdb +yes +sword-text-kjv +public domain"_s);
-    const QRegularExpression missing(u"spanish +Spanish\\.mdb +no +sword-text-sparv"_s);
-    EXPECT_TRUE(made.match(run.out).hasMatch()) << qPrintable(run.out);
-    EXPECT_TRUE(missing.match(run.out).hasMatch()) << qPrintable(run.out);
 }

@@ -25,6 +25,29 @@ QByteArray insertSql(const QString& table, qsizetype valueCount) {
     return "INSERT INTO " + quotedName(table) + " VALUES (" + parameters + ")";
 }
 
+QByteArray typeOf(NewColumn::Kind kind) {
+    switch (kind) {
+    case NewColumn::Kind::Number:
+        return "INTEGER";
+    case NewColumn::Kind::Counter:
+        return "INTEGER PRIMARY KEY AUTOINCREMENT";
+    case NewColumn::Kind::Real:
+        return "REAL";
+    case NewColumn::Kind::Text:
+        return "TEXT";
+    case NewColumn::Kind::Bytes:
+        return "BLOB";
+    }
+    Q_UNREACHABLE();
+}
+
+QByteArray createSql(const QString& table, const QList<NewColumn>& columns) {
+    QByteArray list;
+    for (const NewColumn& column : columns)
+        list += (list.isEmpty() ? "" : ", ") + quotedName(column.name) + ' ' + typeOf(column.kind);
+    return "CREATE TABLE " + quotedName(table) + " (" + list + ")";
+}
+
 } // namespace
 
 class DataFileWriter::State {
@@ -38,6 +61,21 @@ public:
     }
 
     void execute(const char* statement) { m_connection->execute(statement); }
+
+    // The engine notes the last number when a row is added, and of a table without rows nothing.
+    void setLastNumber(const QString& table, qint64 number) {
+        Statement update(
+            m_connection, "UPDATE sqlite_sequence SET seq = max(seq, ?2) WHERE name = ?1");
+        Statement add(
+            m_connection, "INSERT INTO sqlite_sequence (name, seq) SELECT ?1, ?2 WHERE NOT EXISTS "
+                          "(SELECT 1 FROM sqlite_sequence WHERE name = ?1)");
+        for (Statement* const statement : {&update, &add}) {
+            const StatementRun run(*statement);
+            statement->bind(1, StoredText{table.toStdString()});
+            statement->bind(2, number);
+            statement->step();
+        }
+    }
 
     void insert(const QString& table, const QVariantList& values) {
         Statement& statement = insertFor(table, values.size());
@@ -85,6 +123,14 @@ DataFileWriter::State& DataFileWriter::state() const {
 
 void DataFileWriter::execute(const char* statement) {
     state().execute(statement);
+}
+
+void DataFileWriter::createTable(const QString& table, const QList<NewColumn>& columns) {
+    state().execute(createSql(table, columns).constData());
+}
+
+void DataFileWriter::setLastNumber(const QString& table, qint64 number) {
+    state().setLastNumber(table, number);
 }
 
 void DataFileWriter::insert(const QString& table, const QVariantList& values) {

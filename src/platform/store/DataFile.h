@@ -2,12 +2,26 @@
 // whole, or not at all.
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QVariant>
 #include <memory>
 
 // What makes a file one of ours, in the header of the file.
 inline constexpr int DataFileApplicationId = 0x4C756D76; // "Lumv"
+
+// A column of a table whose shape comes from data.
+struct NewColumn {
+    enum class Kind {
+        Number,  // whole
+        Counter, // the row's number, which the table gives and never gives twice; one a table
+        Real,
+        Text,
+        Bytes,
+    };
+    QString name;
+    Kind kind;
+};
 
 // Every operation throws Error::StorageFailure, with what is wrong, when the file cannot be
 // written, and Error::AlreadyClosed when the writer is done.
@@ -22,6 +36,13 @@ public:
     // Runs one statement of the schema (CREATE TABLE, CREATE INDEX), written in code and never
     // built from data.
     void execute(const char* statement);
+
+    // Creates a table with names that may hold anything but the character 0.
+    void createTable(const QString& table, const QList<NewColumn>& columns);
+
+    // The last number that the table's counter has given: the next row gets a higher one, whatever
+    // rows there are.
+    void setLastNumber(const QString& table, qint64 number);
 
     // Adds a row; the values in the order of the table's columns. A QVariant without a value is
     // Null.

@@ -3,8 +3,12 @@
 // with it; so the store only knows whom to ask.
 #pragma once
 
+#include <QByteArrayView>
 #include <QString>
 #include <functional>
+
+// Whether a file that begins so is a Jet or ACE database.
+bool isJetHead(QByteArrayView head);
 
 // Converts the Jet database at the path of the host and returns the path of the file to open: as a
 // rule the same one, which the store's file has taken; another one, to be opened for reading, where

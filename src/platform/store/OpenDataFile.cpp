@@ -26,10 +26,6 @@ constexpr quint32 Utf8Encoding = 1;
 constexpr int ApplicationIdOffset = 68;
 constexpr int PageCountValidForOffset = 92;
 
-constexpr int JetSignatureOffset = 4;
-constexpr QByteArrayView JetStart("\0\1\0\0", 4);
-constexpr QByteArrayView JetSignatures[] = {"Standard Jet DB", "Standard ACE DB"};
-
 // More than any schema of ours takes to be read, and soon over.
 constexpr int MaximumOpeningSteps = 1000000;
 
@@ -51,16 +47,10 @@ quint32 numberAt(const QByteArray& head, int offset) {
     return qFromBigEndian<quint32>(head.constData() + offset);
 }
 
-bool isJetFile(const QByteArray& head) {
-    const QByteArray name = head.mid(JetSignatureOffset);
-    return head.startsWith(JetStart)
-           && (name.startsWith(JetSignatures[0]) || name.startsWith(JetSignatures[1]));
-}
-
 // Before the engine has the file open: it would go on with the file that the converter replaces.
 QString pathAfterConversion(const QString& path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || !isJetFile(file.read(HeadSize)))
+    if (!file.open(QIODevice::ReadOnly) || !isJetHead(file.read(HeadSize)))
         return path;
     file.close();
     if (!jetConverter())
