@@ -3,6 +3,7 @@
 #include "basic/Error.h"
 
 #include <QDir>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
