@@ -10,7 +10,6 @@
 
 #include <CLI/CLI.hpp>
 #include <QDir>
-#include <ranges>
 
 using namespace Qt::StringLiterals;
 
@@ -86,10 +85,14 @@ QList<const Work*> chosenWorks(const std::vector<std::string>& names) {
             chosen.append(&work);
     };
     for (const std::string& name : names) {
-        if (const Work* work = findWork(QString::fromStdString(name)))
+        if (const Work* work = findWork(QString::fromStdString(name))) {
             choose(*work);
-        else
-            std::ranges::for_each(works() | std::views::filter(hasSource), choose);
+            continue;
+        }
+        for (const Work& work : works()) {
+            if (hasSource(work))
+                choose(work);
+        }
     }
     return chosen;
 }

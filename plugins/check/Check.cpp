@@ -46,9 +46,11 @@ void checkTable(
     Database& database, const TableNeeds& needs, const QList<TableSummary>& tables,
     CheckReport& report) {
     const TableSummary* table = tableNamed(tables, needs.name);
-    const QStringList lacks =
-        table ? lacksOf(needs, *table)
-              : QStringList(u"the table %1 is missing"_s.arg(QString(needs.name)));
+    if (!table) {
+        report.fault(u"the table %1 is missing"_s.arg(QString(needs.name)));
+        return;
+    }
+    const QStringList lacks = lacksOf(needs, *table);
     for (const QString& lack : lacks)
         report.fault(lack);
     if (!lacks.isEmpty())

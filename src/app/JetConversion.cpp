@@ -49,7 +49,7 @@ QString knownResult(const QFileInfo& file) {
 // Beside the program, where it is installed, or where it is built.
 QString findTool(const QString& path) {
     const QDir folder(QCoreApplication::applicationDirPath());
-    const QString tool = QStandardPaths::findExecutable(
+    QString tool = QStandardPaths::findExecutable(
         u"lumenvia-plugins"_s, {folder.path(), folder.filePath(u"../plugins"_s)});
     if (tool.isEmpty())
         fail(path, u"lumenvia-plugins is missing. Install it beside the program."_s);
@@ -75,11 +75,11 @@ void runTool(QProcess& process, const QString& path) {
 
 QString convertJetDatabase(const QString& path) {
     const QFileInfo file(path);
-    if (const QString known = knownResult(file); !known.isEmpty())
+    if (QString known = knownResult(file); !known.isEmpty())
         return known;
     QProcess process;
     runTool(process, path);
-    const QString result = QString::fromLocal8Bit(process.readAllStandardOutput()).trimmed();
+    QString result = QString::fromLocal8Bit(process.readAllStandardOutput()).trimmed();
     const QString complaint = QString::fromLocal8Bit(process.readAllStandardError()).trimmed();
     if (process.exitCode() != 0 || result.isEmpty())
         fail(path, complaint.isEmpty() ? u"lumenvia-plugins did not say why."_s : complaint);
