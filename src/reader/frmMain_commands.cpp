@@ -22,6 +22,16 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// Whether the cursor finds by criteria: where no table could be opened, a query or a search leaves
+// it so at its end.
+bool isDynaset() {
+    return attempt([] { rsBible.FindFirst(u"ID = 0 and ID = 1"_s); });
+}
+
+} // namespace
+
 // What the buttons do whose windows are there; the others are disabled.
 void frmMain::cmdMain_Click(int Index) {
     using Command = void (*)(frmMain&);
@@ -90,10 +100,10 @@ void frmMain::copyFromPage() {
         desktop().setClipboardText(text);
 }
 
-// The verse that the lists show becomes the reading position. Without a query nothing happens, so
-// that a window may press this button to be sure of a plain cursor.
+// The verse that the lists show becomes the reading position. On a plain cursor nothing happens, so
+// that a window may press this button to be sure of one.
 void frmMain::EndQuery() {
-    if (InQuery == Off)
+    if (InQuery == Off && !isDynaset())
         return;
     showHourglass();
     QueryLock = Off;
@@ -103,8 +113,9 @@ void frmMain::EndQuery() {
     const double verse = Val(cboVerse.Text());
     attempt([] { OpenBibleTable(); });
     InQuery = Off;
-    attempt([&] { rsBible.Seek(u"="_s, book, chapter, verse); });
-    attempt([this] { UpDateBibleText(true); });
+    // Where no table could be opened the page stays, as the cursor has been rewound behind it.
+    if (attempt([&] { rsBible.Seek(u"="_s, book, chapter, verse); }))
+        attempt([this] { UpDateBibleText(true); });
     showNormalPointer();
     enableLists(true);
 }

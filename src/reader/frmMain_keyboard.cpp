@@ -5,6 +5,7 @@
 #include "core/BookNames.h"
 #include "core/GlobalCode.h"
 #include "core/Settings.h"
+#include "reader/PageComposer.h"
 #include "reader/frmMain.h"
 
 #include <QAbstractButton>
@@ -147,6 +148,9 @@ void frmMain::turnPage(int KeyCode, int multiplier) {
         attempt([&] { movePage(KeyCode, multiplier); });
     else if (isArrowKey(KeyCode))
         attempt([&] { moveRow(KeyCode); });
+    // Beyond its ends a query shows its first or last hit, which is then where the reader is.
+    if (InQuery == On && !returnToFirstRow() && isBehindLastRow())
+        attempt([] { rsBible.MoveLast(); });
     showPlaceAndPage();
 }
 

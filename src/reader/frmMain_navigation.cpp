@@ -86,18 +86,20 @@ void frmMain::cboVerse_Click() {
 }
 
 // Stands on the verse, or on the last one of its chapter where it does not exist, and lets the list
-// say which.
+// say which. A cursor that cannot seek leaves the list alone.
 void frmMain::seekVerseDownward(int book, int chapter, int verse) {
     bool missing = true;
     const auto seek = [&] {
-        attempt([&] {
+        return attempt([&] {
             rsBible.Seek(u"="_s, book, chapter, verse);
             missing = rsBible.NoMatch();
         });
     };
-    seek();
-    while (missing && --verse >= 1)
-        seek();
+    bool sought = seek();
+    while (sought && missing && --verse >= 1)
+        sought = seek();
+    if (!sought)
+        return;
     const int listed = cboVerse.ListIndex();
     attempt([&] { cboVerse.setListIndex(verse - 1); });
     // The list's own click has drawn its page and rewound the cursor.

@@ -24,12 +24,13 @@ QColor userColor(int red, int green, int blue) {
 void frmMain::UpDateBibleText(bool WholeChapter) {
     if (StartingUp == On || HoldUpdates == On)
         return;
-    // Paging past the end shows an empty page that names the last verse, and before the start the
-    // first page from its first verse; without a row the title would draw a page of its own.
+    // Paging past the end shows an empty page that names the last verse; before the start, and
+    // after a failed Seek, comes the first page from its first verse. Without a row the title would
+    // draw a page of its own.
     attempt([] {
         if (rsBible.Eof())
             rsBible.MoveLast();
-        else if (rsBible.Bof())
+        else if (rsBible.Bof() || !currentVerseRow())
             rsBible.MoveFirst();
     });
     m_pageTop = currentVerseRow();

@@ -33,7 +33,10 @@ QString wholeWordTerms(const QString& word) {
 void frmHolyTextFind::Form_Load() {
     SettingCombos = On;
     placeInCorner(*this);
-    takePlace();
+    if (currentVerseRow())
+        takePlace();
+    else
+        takeListedPlace();
     Repositioned = false;
     showHourglass();
     cboTestament.setListIndex(0);
@@ -179,6 +182,14 @@ void frmHolyTextFind::takePlace() {
     attempt([this] { LastBook = rsBible.Fields(1).Value(); });
     attempt([this] { LastChapter = rsBible.Fields(2).Value(); });
     attempt([this] { LastVerse = rsBible.Fields(3).Value(); });
+}
+
+// Behind a walk of the index no row is left; the lists still show where the reader is.
+void frmHolyTextFind::takeListedPlace() {
+    const auto& main = form<frmMain>();
+    LastBook = main.cboBook.ListIndex() + 1;
+    LastChapter = Val(main.cboChapter.Text());
+    LastVerse = Val(main.cboVerse.Text());
 }
 
 void frmHolyTextFind::showHit() {

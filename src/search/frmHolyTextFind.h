@@ -86,6 +86,7 @@ private:
     void findPrevious();
     void offerBeginning();
     void takePlace();
+    void takeListedPlace();
     void showHit();
     // The page cannot be marked: tells the user, and closes the window.
     void textSearchFailed(const Error& error);

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTimer>
 #include <gtest/gtest.h>
 
@@ -14,6 +15,7 @@ struct BoxSeen {
     QString text;
     QString title;
     QMessageBox::Icon icon = QMessageBox::NoIcon;
+    QSize size = {};
 };
 
 // Presses a button of the message box that opens next.
@@ -22,7 +24,7 @@ BoxSeen pressWhenShown(QMessageBox::StandardButton button, const std::function<v
     QTimer::singleShot(0, [&] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr);
-        seen = {box->text(), box->windowTitle(), box->icon()};
+        seen = {box->text(), box->windowTitle(), box->icon(), box->size()};
         if (button == QMessageBox::NoButton)
             box->reject();
         else
@@ -44,6 +46,22 @@ TEST(QtDesktop, showsAMessageAsPlainTextWithItsTitleAndIcon) {
     EXPECT_EQ(seen.text, u"<b>1</b>\n\n2"_s);
     EXPECT_EQ(seen.title, u"Title"_s);
     EXPECT_EQ(seen.icon, QMessageBox::Critical);
+}
+
+TEST(QtDesktop, cutsATextThatWouldPushTheButtonsOffTheScreen) {
+    QtDesktop desktop;
+    const auto shown = [&](const QString& text) {
+        return pressWhenShown(QMessageBox::Ok, [&] { desktop.showMessage({text, u"Title"_s}); });
+    };
+    const QString fits = QString(562, u'g') + u"\ng"_s.repeated(19);
+    EXPECT_EQ(shown(fits).text, fits);
+    for (const QString& text :
+         {QString(32000, u'g'), u"grace "_s.repeated(6000), u"g\n"_s.repeated(200)}) {
+        const BoxSeen seen = shown(text);
+        EXPECT_TRUE(seen.text.endsWith(u"…"_s));
+        EXPECT_TRUE(text.startsWith(seen.text.chopped(1)));
+        EXPECT_LT(seen.size.height(), QGuiApplication::primaryScreen()->size().height());
+    }
 }
 
 TEST(QtDesktop, asksYesOrNoAndTakesTheClosedBoxForNo) {

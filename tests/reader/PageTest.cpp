@@ -122,6 +122,14 @@ TEST_F(Page, pastTheEndIsEmptyAndTitledWithTheLastVerse) {
     }
 }
 
+TEST_F(Page, behindAFailedSeekIsThatOfTheFirstVerse) {
+    VersesPerPage = 10;
+    show(50, 1, 1);
+    EXPECT_EQ(window().Caption(), u"Lumenvia Professional King James [Genesis 1:1] "_s);
+    EXPECT_TRUE(window().txtMain.Text().startsWith(u"Genesis 1:1 "_s));
+    EXPECT_EQ(position(), u"1:1:21"_s);
+}
+
 TEST_F(Page, inAQueryGoesBackByTheVersesItWrote) {
     rsBible = dbBible.OpenRecordset(
         u"SELECT * FROM tblMain WHERE (((body like \"*Verse 40:*\")) )"_s, dbOpenDynaset);

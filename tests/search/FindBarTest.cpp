@@ -203,6 +203,22 @@ TEST_F(FindBar, aQueryWhoseResultItDroppedStillEnds) {
     expectReadingAgain();
 }
 
+TEST_F(FindBar, aMissBehindTheLastHitOfAQueryLeavesPageAndLists) {
+    beInQuery(u"peace"_s);
+    window().UpDateBibleText(true);
+    const QString page = window().txtMain.TextRTF();
+    const QString lists = listed();
+    rsBible.MoveLast();
+    rsBible.MoveNext(); // as the index leaves it
+    expectMissForward(u"xyzzy"_s);
+    findNext(u"xyzzy"_s);
+    EXPECT_EQ(window().txtMain.TextRTF(), page);
+    EXPECT_EQ(listed(), lists);
+    EXPECT_EQ(position(), u"1:1:1"_s);
+    EXPECT_EQ(InQuery, On);
+    EXPECT_EQ(HoldUpdates, Off);
+}
+
 TEST_F(FindBar, findsInTheRedLettersPrefixToo) {
     Verses verses = graceVerses();
     verses[7].body = QChar(30) + u"000 005grace begins this one."_s;

@@ -279,6 +279,18 @@ TEST_F(HolyTextFind, openedInAQueryItsClosingEndsTheQuery) {
     expectReadingAgain();
 }
 
+TEST_F(HolyTextFind, openedBehindTheLastHitOfAQueryItReturnsToTheVerseThatTheListsShow) {
+    beInQuery(u"peace"_s);
+    rsBible.MoveNext();
+    window().showPlaceInLists();
+    rsBible.MoveLast();
+    rsBible.MoveNext(); // as the index leaves it
+    inWindow([](frmHolyTextFind& find) { press(find, Close); });
+    EXPECT_EQ(pageTop(), u"Exodus 1:1 Peace with grace?"_s);
+    EXPECT_EQ(listed(), u"Exodus 1 1"_s);
+    expectReadingAgain();
+}
+
 TEST_F(HolyTextFind, theToolBarsButtonEndsAQueryFirst) {
     beInQuery(u"peace"_s);
     desktop.expectWindow([](QWidget& opened) {

@@ -38,8 +38,8 @@ protected:
 // Fails once, at the first wait pointer over the page of a verse: there the marking starts.
 class FailingMarks final : public QObject {
 public:
-    explicit FailingMarks(const QString& verse)
-        : m_verse(verse) {}
+    explicit FailingMarks(QString verse)
+        : m_verse(std::move(verse)) {}
 
     bool eventFilter(QObject* window, QEvent* event) override {
         if (event->type() == QEvent::CursorChange
@@ -121,6 +121,20 @@ TEST_F(HolyTextFindWindow, aPageThatCannotBeMarkedIsToldAndClosesTheWindow) {
     expectReadingAgain();
 }
 
+TEST_F(HolyTextFindWindow, aPageThatCannotBeMarkedEndsAQueryToo) {
+    beInQuery(u"peace"_s);
+    inWindow([this](frmHolyTextFind& find) {
+        FailingMarks marks(u"Matthew 1:2"_s);
+        find.installEventFilter(&marks);
+        desktop.expectMessage(
+            {u"Error in Text Search: \n\nout of ink"_s, u"Error"_s, MessageIcon::Information});
+        search(find, u"begins"_s);
+    });
+    EXPECT_TRUE(window().cboBook.Enabled() && window().cboChapter.Enabled());
+    EXPECT_TRUE(window().cboVerse.Enabled() && window().cmbTestament.Enabled());
+    expectReadingAgain();
+}
+
 TEST_F(HolyTextFindWindow, opensEmptyInANewRun) {
     inWindow([](frmHolyTextFind& find) {
         EXPECT_EQ(find.Caption(), u"Advanced Search of Verses"_s);
@@ -162,6 +176,27 @@ TEST_F(HolyTextFindWindow, remembersWhatItLastHeld) {
         EXPECT_EQ(find.cboTestament.ListIndex(), 2);
         EXPECT_EQ(find.cboBook.ListIndex(), 0);
         EXPECT_FALSE(find.cboBook.Enabled());
+        press(find, Close);
+    });
+}
+
+TEST_F(HolyTextFindWindow, remembersWhatItHeldWhenItAskedForAWord) {
+    inWindow([this](frmHolyTextFind& find) {
+        find.txtFind(1).setText(u"two"_s);
+        find.cboBook.setListIndex(19);
+        find.optAndOr(0).setValue(true);
+        desktop.expectMessage(
+            {u"Please enter some text to search for."_s, u"Need Text"_s, MessageIcon::Information});
+        press(find, Next);
+        EXPECT_EQ(OldSearchWords[1], u"two"_s);
+        EXPECT_EQ(OldSearchBook, 19);
+        EXPECT_TRUE(OldSearchBoth);
+        press(find, Close);
+    });
+    inWindow([](frmHolyTextFind& find) {
+        EXPECT_EQ(find.txtFind(0).Text(), QString());
+        EXPECT_EQ(find.txtFind(1).Text(), u"two"_s);
+        EXPECT_EQ(find.cboBook.ListIndex(), 19);
         press(find, Close);
     });
 }

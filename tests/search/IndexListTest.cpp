@@ -87,6 +87,30 @@ TEST_F(IndexList, endsWithTheHitsAndLeavesTheCursorBehindThem) {
     EXPECT_EQ(main().cursor().shape(), Qt::ArrowCursor);
 }
 
+TEST_F(IndexList, calledAgainBehindTheHitsIsNotNeeded) {
+    query(u"verse 40:2"_s);
+    open();
+    press(window().CmdIndex(0));
+    ASSERT_EQ(position(), u"EOF"_s);
+    desktop.expectMessage(allOnThePage);
+    open();
+    EXPECT_FALSE(isLoaded<frmIndex>());
+    EXPECT_EQ(position(), u"EOF"_s);
+    EXPECT_EQ(InQuery, On);
+    main().cmdMain(6).setValue(true);
+    EXPECT_TRUE(main().Caption().contains(u"[Matthew 2:1]"_s));
+}
+
+TEST_F(IndexList, behindTheFindBarListsWhatFollowsInTheBible) {
+    query(u"verse 19"_s);
+    main().txtFind.setText(u"verse 40:1:3."_s);
+    main().cmdMain(8).setValue(true);
+    ASSERT_EQ(InQuery, On);
+    open();
+    EXPECT_EQ(window().lstIndex.List(0), u"Matthew 1:3 Verse 40:1:3."_s);
+    EXPECT_EQ(window().lstIndex.List(1), u"Matthew 1:4 Verse 40:1:4."_s);
+}
+
 TEST_F(IndexList, isNotNeededForFewHits) {
     VersesPerPage = 40;
     query(u"verse 40:2"_s);
@@ -137,7 +161,7 @@ TEST_F(IndexList, showsTextsWithoutTheirRedLetters) {
 TEST_F(IndexList, tellsOfItsProgress) {
     startOn({3, 15611, 15612, 31221});
     query(u"verse 1"_s);
-    frmWorking& working = form<frmWorking>();
+    auto& working = form<frmWorking>();
     ProgressWatch watch(working);
     VersesPerPage = 2;
     open();

@@ -1,11 +1,13 @@
 // The searches while the file of the open translation is gone: each opening anew is told, and the
-// old cursor stays.
+// old cursor stays. Once the file is back, End Query makes good what was left undone.
 #include "search/FindBarFixture.h"
 #include "search/HolyTextFindFixture.h"
 #include "search/NoteSearchFixture.h"
+#include "search/QueryFixture.h"
 #include "search/SearchTexts.h"
 #include "search/SimpleFindFixture.h"
 
+#include <optional>
 #include <utility>
 
 namespace {
@@ -38,6 +40,15 @@ class FindBarWithoutFile : public FindBarFixture {};
 class SimpleFindWithoutFile : public SimpleFindFixture {};
 class HolyTextFindWithoutFile : public HolyTextFindFixture {};
 class NoteSearchWithoutFile : public NoteSearchFixture {};
+
+class QueryWithoutFile : public QueryFixture {
+protected:
+    void endWithoutFile() {
+        const LostFile lost;
+        desktop.expectMessage(missingFile(u"Plug in not found"_s));
+        endQuery();
+    }
+};
 
 } // namespace
 
@@ -107,4 +118,63 @@ TEST_F(NoteSearchWithoutFile, closingIsToldTwiceAndTheReaderStays) {
         press(Close);
     });
     expectPlace(u"Matthew 2:3"_s, u"40:2:3"_s, u" "_s);
+}
+
+TEST_F(QueryWithoutFile, endingIsToldAndIsMadeGoodWhenTheFileIsBack) {
+    query(u"light"_s);
+    const QStringList page = pageLines();
+    endWithoutFile();
+    EXPECT_EQ(pageLines(), page);
+    expectFlags(Off, Off);
+    EXPECT_TRUE(areListsEnabled());
+    EXPECT_EQ(listed(), u"Genesis 1:2"_s);
+    EXPECT_FALSE(isTableCursor());
+    endWithoutFile();
+    endQuery();
+    EXPECT_TRUE(main().Caption().contains(u"[Genesis 1:2]"_s));
+    EXPECT_EQ(pageLines().size(), 30);
+    EXPECT_TRUE(isTableCursor());
+}
+
+TEST_F(QueryWithoutFile, aBookThatIsPickedAfterwardsKeepsItsFirstVerseInTheLists) {
+    query(u"light"_s);
+    endWithoutFile();
+    main().cboBook.setListIndex(39);
+    EXPECT_EQ(listed(), u"Matthew 1:1"_s);
+    main().cboVerse.setListIndex(4);
+    EXPECT_EQ(listed(), u"Matthew 1:5"_s);
+    endQuery();
+    EXPECT_TRUE(main().Caption().contains(u"[Matthew 1:5]"_s));
+}
+
+TEST_F(SimpleFindWithoutFile, aFileLostWhileItIsOpenIsToldByCloseAndByEndQuery) {
+    std::optional<LostFile> lost;
+    inWindow([&](frmSimpleFind& find) {
+        search(find, u"begins"_s);
+        lost.emplace();
+        for (int told = 0; told < 2; ++told)
+            desktop.expectMessage(missingFile(u"Plug in not found"_s));
+        press(find, Close);
+    });
+    EXPECT_EQ(pageTop(), u"Matthew 1:2 grace begins this one."_s);
+    lost.reset();
+    window().cmdMain(6).setValue(true);
+    EXPECT_EQ(pageTop(), u"Matthew 1:2 grace begins this one."_s);
+    expectReadingAgain();
+}
+
+TEST_F(HolyTextFindWithoutFile, aFileLostWhileItIsOpenIsToldAndEndQueryMakesItGood) {
+    std::optional<LostFile> lost;
+    inWindow([&](frmHolyTextFind& find) {
+        search(find, u"begins"_s);
+        lost.emplace();
+        desktop.expectMessage(missingFile(u"Plug in not found"_s));
+        press(find, Close);
+    });
+    EXPECT_EQ(pageTop(), u"Matthew 1:2 grace begins this one."_s);
+    EXPECT_TRUE(window().cboBook.Enabled());
+    lost.reset();
+    window().cmdMain(6).setValue(true);
+    EXPECT_EQ(pageTop(), u"Matthew 1:2 grace begins this one."_s);
+    expectReadingAgain();
 }

@@ -13,6 +13,16 @@ protected:
         QCoreApplication::processEvents();
     }
 
+    // A query without a hit, given up.
+    void emptyQuery() {
+        open([this] {
+            window().txtQuery(0).setText(u"nowhere"_s);
+            desktop.expectMessage(notFound);
+            ok();
+            cancel();
+        });
+    }
+
     // A query whose text the store does not understand.
     void spoiledQuery() {
         open([this] {
@@ -48,6 +58,27 @@ TEST_F(QueryStates, behindAnSqlErrorTheReaderTurnsPagesAndTheQueryEnds) {
     expectFlags(Off, Off);
     EXPECT_TRUE(areListsEnabled());
     EXPECT_TRUE(main().Caption().contains(u'[' + listed() + u']'));
+}
+
+TEST_F(QueryStates, emptyAndSpoiledQueriesEndByShortcutMenuAndButton) {
+    const std::function<void()> ways[] = {
+        [] { main().cmdMain(6).setValue(true); }, endQuery,
+        [] { QTest::keyClick(&main(), Qt::Key_J, Qt::ControlModifier); }};
+    for (const bool spoiled : {false, true}) {
+        for (const auto& way : ways) {
+            if (spoiled)
+                spoiledQuery();
+            else
+                emptyQuery();
+            ASSERT_EQ(InQuery, On);
+            ASSERT_TRUE(areListsDisabled());
+            activate(main());
+            way();
+            expectFlags(Off, Off);
+            EXPECT_TRUE(areListsEnabled());
+            EXPECT_TRUE(isTableCursor());
+        }
+    }
 }
 
 TEST_F(QueryStates, behindAnSqlErrorTheNextQueryIsAsGoodAsEver) {
@@ -104,6 +135,31 @@ TEST_F(QueryStates, withoutAHitAndWithoutAPlaceToReturnToStandsOnTheFirstVerse) 
     main().cmdMain(5).setValue(true);
     endQuery();
     EXPECT_TRUE(main().Caption().contains(u"[Genesis 1:1]"_s));
+}
+
+TEST_F(QueryStates, anEmptyQueryInsideAQueryStaysOnWhateverIsCancelledAfterwards) {
+    query(u"light"_s);
+    emptyQuery();
+    expectFlags(On, Off);
+    open([] { cancel(); });
+    expectFlags(On, Off);
+    EXPECT_TRUE(areListsDisabled());
+    endQuery();
+    expectFlags(Off, Off);
+    EXPECT_TRUE(areListsEnabled());
+    EXPECT_TRUE(isTableCursor());
+}
+
+TEST_F(QueryStates, onAHitThatTheListLacksTheListOfVersesStaysAndTheEndGoesByIt) {
+    rsBible.Seek(u"="_s, 40, 2, 5);
+    main().showPlaceInLists();
+    query(u"at the end"_s);
+    EXPECT_EQ(pageLines(), QStringList{u"Psalms 119:176 A light: at the end"_s});
+    EXPECT_TRUE(main().Caption().contains(u"[Psalms 119:176]"_s));
+    EXPECT_EQ(listed(), u"Psalms 119:5"_s);
+    endQuery();
+    EXPECT_TRUE(main().Caption().contains(u"[Psalms 119:5]"_s));
+    EXPECT_EQ(pageLines().size(), 172);
 }
 
 TEST_F(QueryStates, cancelInAQueryShowsItsHitsAlone) {

@@ -193,6 +193,34 @@ TEST_F(Query, pagedThroughEndsWhereTheReaderIs) {
     EXPECT_TRUE(main().Caption().contains(u'[' + place + u']'));
 }
 
+TEST_F(Query, pagedToItsLastHitEndsThere) {
+    for (const Qt::Key key : {Qt::Key_PageDown, Qt::Key_Down}) {
+        rsBible.MoveFirst();
+        main().showPlaceInLists();
+        query(u"light"_s);
+        for (int press = 0; press < 8; ++press) {
+            main().txtMain.SetFocus();
+            QTest::keyClick(&main().txtMain, key);
+        }
+        EXPECT_EQ(pageLines(), QStringList{u"Matthew 1:3 The LIGHT; again love"_s});
+        EXPECT_EQ(listed(), u"Matthew 1:3"_s);
+        endQuery();
+        EXPECT_TRUE(main().Caption().contains(u"[Matthew 1:3]"_s));
+    }
+}
+
+TEST_F(Query, pagedBackToItsFirstHitEndsThere) {
+    query(u"light"_s);
+    for (const Qt::Key key : {Qt::Key_PageDown, Qt::Key_PageDown, Qt::Key_PageUp}) {
+        main().txtMain.SetFocus();
+        QTest::keyClick(&main().txtMain, key);
+    }
+    EXPECT_EQ(pageLines().constFirst(), u"Genesis 1:2 There was light, and love."_s);
+    EXPECT_EQ(listed(), u"Genesis 1:2"_s);
+    endQuery();
+    EXPECT_TRUE(main().Caption().contains(u"[Genesis 1:2]"_s));
+}
+
 TEST_F(Query, cancelKeepsTheQueryThatOpeningFound) {
     query(u"light"_s);
     open([] {

@@ -126,6 +126,21 @@ TEST_F(SimpleFindInput, ofASpoiledTextNothingTells) {
     expectReadingAgain();
 }
 
+TEST_F(SimpleFindInput, aSpoiledTextInAFreshScopeMovesToItsStartAndLeavesTheLists) {
+    rsBible.Seek(u"="_s, 2, 1, 1);
+    window().showPlaceInLists();
+    inWindow([](frmSimpleFind& find) {
+        find.cboTestament.setListIndex(2);
+        search(find, u"a\"b"_s);
+        EXPECT_TRUE(find.Repositioned);
+        EXPECT_EQ(position(), u"40:1:1"_s);
+        EXPECT_EQ(listed(), u"Exodus 1 1"_s);
+        search(find, u"grace"_s);
+        EXPECT_EQ(position(), u"40:1:2"_s);
+        press(find, Close);
+    });
+}
+
 TEST_F(SimpleFindInput, starsAloneAreInEveryVerse) {
     inWindow([](frmSimpleFind& find) {
         search(find, u"**"_s);
@@ -165,6 +180,27 @@ TEST_F(HolyTextFindInput, ofASpoiledTextTheStoresErrorTells) {
         press(find, Close);
     });
     EXPECT_EQ(pageTop(), u"Matthew 1:2 grace begins this one."_s);
+    expectReadingAgain();
+}
+
+TEST_F(HolyTextFindInput, aSpoiledTextInAFreshScopeMovesToItsStartAndShowsNothing) {
+    show(2, 1, 1);
+    rsBible.Seek(u"="_s, 2, 1, 1);
+    inWindow([this](frmHolyTextFind& find) {
+        find.cboTestament.setListIndex(2);
+        const QString lists = listed();
+        find.txtFind(0).setText(u"a\"b"_s);
+        find.MakeSQL();
+        desktop.expectMessage(
+            {complaintAbout(find.SearchSQL), u"Lumenvia"_s, MessageIcon::Exclamation});
+        press(find, Next);
+        EXPECT_TRUE(find.Repositioned);
+        EXPECT_EQ(position(), u"40:1:1"_s);
+        EXPECT_EQ(pageTop(), u"Exodus 1:1 Peace with grace?"_s);
+        EXPECT_EQ(listed(), lists);
+        press(find, Close);
+    });
+    EXPECT_EQ(pageTop(), u"Exodus 1:1 Peace with grace?"_s);
     expectReadingAgain();
 }
 

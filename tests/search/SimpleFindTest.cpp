@@ -1,6 +1,8 @@
 // The simple search: what it searches for, what it finds, and where it leaves the reader.
 #include "search/SimpleFindFixture.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -271,11 +273,19 @@ TEST_F(SimpleFind, closingEndsAQuery) {
     expectReadingAgain();
 }
 
-TEST_F(SimpleFind, onAHitThatTheListLacksTheBookFollows) {
+TEST_F(SimpleFind, onAHitThatTheListLacksItShowsTheFirstVerseOfThePsalmAndCloseLeadsThere) {
+    Verses verses = sampleVerses();
+    std::ranges::find(verses, 176, &Verse::verse)->body = u"My grace; at last."_s;
+    startOn(verses);
+    rsBible.Seek(u"="_s, 19, 119, 5);
+    window().showPlaceInLists();
     inWindow([](frmSimpleFind& find) {
         search(find, u"at last"_s);
-        EXPECT_EQ(window().cboBook.Text() + window().cboChapter.Text(), u"Psalms119"_s);
+        EXPECT_EQ(position(), u"19:119:176"_s);
+        EXPECT_EQ(listed(), u"Psalms 119 1"_s);
         EXPECT_EQ(SettingCombos, Off);
         press(find, Close);
     });
+    EXPECT_TRUE(window().Caption().contains(u"[Psalms 119:1]"_s));
+    expectReadingAgain();
 }

@@ -109,6 +109,18 @@ TEST(Like, prefixesZerosAndStrayBytesAreCharactersLikeOthers) {
         EXPECT_FALSE(LikePattern(u"*é*"_s).matches(damaged));
 }
 
+TEST(Like, halfOfASurrogatePairIsLikeNothing) {
+    for (const QChar half : {QChar(0xD83D), QChar(0xDD4A)}) {
+        const QString pattern = u"*"_s + half + u"*"_s;
+        EXPECT_FALSE(isLike(u"Who?"_s, pattern));
+        EXPECT_FALSE(isLike(u"\uFFFD"_s, pattern));
+        EXPECT_FALSE(LikePattern(pattern).matches("\xED\xA0\xBD"));
+        EXPECT_FALSE(LikePattern(pattern).matches("\xED\xB5\x8A"));
+        EXPECT_FALSE(areEqual(u"?"_s, half));
+    }
+    EXPECT_TRUE(isLike(u"A \U0001F54A."_s, u"*\U0001F54A*"_s));
+}
+
 // The order of the engine's bytes does not matter here, only that of characters.
 TEST(Compare, textsAreOrderedByTheirFoldedCharacters) {
     EXPECT_LT(compareFolded("abc", folded(u"ABD"_s)), 0);

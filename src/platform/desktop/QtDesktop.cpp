@@ -40,6 +40,15 @@ Answer answerOf(MessageButtons buttons, int pressed) {
     return pressed == QMessageBox::Yes ? Answer::Yes : Answer::No;
 }
 
+// The start of a text that holds more than a screen could show above the buttons, such as one that
+// the user has typed.
+QString shortened(const QString& text) {
+    constexpr qsizetype MostLines = 20;
+    constexpr qsizetype MostCharacters = 600;
+    const QString start = text.section(u'\n', 0, MostLines - 1).left(MostCharacters);
+    return start == text ? text : start + u"…"_s;
+}
+
 // Tells when a window is hidden or gone, whichever way that comes about.
 class HiddenWatch final : public QObject {
 public:
@@ -66,7 +75,7 @@ Answer QtDesktop::showMessage(const Message& message) {
     box.setIcon(iconOf(message.icon));
     box.setWindowTitle(message.title);
     box.setTextFormat(Qt::PlainText);
-    box.setText(QString(message.text).remove(u'\r'));
+    box.setText(shortened(QString(message.text).remove(u'\r')));
     box.setStandardButtons(
         message.buttons == MessageButtons::YesNo ? QMessageBox::Yes | QMessageBox::No
                                                  : QMessageBox::Ok);

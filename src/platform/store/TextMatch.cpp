@@ -9,6 +9,9 @@ namespace {
 // Bytes that belong to no character stand above all characters.
 constexpr char32_t StrayBytes = 0x110000;
 
+// Half of a surrogate pair, which no text holds.
+constexpr char32_t NoCharacter = StrayBytes + 0x100;
+
 // The least byte that begins a character of several bytes.
 constexpr unsigned char LeadBytes = 0xC2;
 
@@ -103,14 +106,25 @@ bool isLetter(char32_t character) {
     return character >= U'a' && character <= U'z';
 }
 
+// The character at a place, which goes on behind it.
+char32_t characterAt(QStringView text, qsizetype& place) {
+    const QChar unit = text[place++];
+    if (!unit.isSurrogate())
+        return unit.unicode();
+    if (unit.isHighSurrogate() && place < text.size() && text[place].isLowSurrogate())
+        return QChar::surrogateToUcs4(unit, text[place++]);
+    return NoCharacter;
+}
+
 } // namespace
 
 std::u32string folded(const QString& text) {
-    const std::string bytes = text.toStdString();
     std::u32string characters;
-    characters.reserve(bytes.size());
-    for (FoldedReader reader(bytes); !reader.atEnd();)
-        characters += reader.next();
+    characters.reserve(static_cast<size_t>(text.size()));
+    for (qsizetype place = 0; place < text.size();) {
+        const char32_t character = characterAt(text, place);
+        characters += character < StrayBytes ? QChar::toCaseFolded(character) : character;
+    }
     return characters;
 }
 
