@@ -1,7 +1,6 @@
 #include "Interruption.h"
 
 #include <atomic>
-#include <csignal>
 
 namespace {
 
@@ -16,13 +15,16 @@ extern "C" void requestInterrupt(int) {
 
 InterruptHandler::InterruptHandler() {
     interruptRequested = false;
-    m_interrupt = std::signal(SIGINT, requestInterrupt);
-    m_terminate = std::signal(SIGTERM, requestInterrupt);
+    for (std::size_t at = 0; at < Signals.size(); ++at) {
+        m_before[at] = std::signal(Signals[at], requestInterrupt);
+        if (m_before[at] == SIG_IGN)
+            std::signal(Signals[at], SIG_IGN);
+    }
 }
 
 InterruptHandler::~InterruptHandler() {
-    std::signal(SIGINT, m_interrupt);
-    std::signal(SIGTERM, m_terminate);
+    for (std::size_t at = 0; at < Signals.size(); ++at)
+        std::signal(Signals[at], m_before[at]);
 }
 
 void checkInterrupt() {

@@ -1,6 +1,9 @@
-// Ctrl+C: work in hand is dropped at the next verse, and nothing of it stays.
+// Ctrl+C, or a terminal that is closed: work in hand is dropped at the next verse, and nothing of
+// it stays.
 #pragma once
 
+#include <array>
+#include <csignal>
 #include <exception>
 
 class Interrupted final : public std::exception {
@@ -8,7 +11,8 @@ public:
     const char* what() const noexcept override { return "interrupted"; }
 };
 
-// While it lives, an interrupt or termination signal is noted instead of ending the program.
+// While it lives, a signal to interrupt, terminate or hang up is noted instead of ending the
+// program. One that was ignored stays ignored.
 class InterruptHandler {
 public:
     InterruptHandler();
@@ -18,8 +22,14 @@ public:
 
 private:
     using SignalHandler = void (*)(int);
-    SignalHandler m_interrupt;
-    SignalHandler m_terminate;
+    static constexpr std::array Signals = {
+        SIGINT,
+        SIGTERM,
+#ifdef SIGHUP
+        SIGHUP,
+#endif
+    };
+    std::array<SignalHandler, Signals.size()> m_before;
 };
 
 // Throws Interrupted once a signal has come.

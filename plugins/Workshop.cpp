@@ -5,9 +5,11 @@
 #include "basic/Conversion.h"
 #include "basic/Error.h"
 #include "desktop/HostPath.h"
+#include "jet/JetVerses.h"
 #include "store/Workspace.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -46,6 +48,30 @@ FileSummary summaryOf(const QString& path, const Work& work) {
         summary.licence = toText(info.Fields(u"licence"_s).Value()).section(u'\n', 0, 0).trimmed();
     });
     return summary;
+}
+
+// What stands under the name of a data file.
+struct Standing {
+    QString there; // for the table
+    QString rows;
+    QString rest; // the licence, or what is the matter
+};
+
+Standing standingOf(const QString& path, const Work& work) {
+    const QFileInfo info(path);
+    if (info.isDir())
+        return {u"folder"_s, u"-"_s, u"a folder stands under this name"_s};
+    if (!info.isFile())
+        return {u"device"_s, u"-"_s, u"what stands under this name is no file"_s};
+    if (isJetFile(path))
+        return {u"Jet"_s, u"-"_s, u"a Jet database, which the program converts when it opens it"_s};
+    try {
+        const FileSummary summary = summaryOf(path, work);
+        const QString licence = summary.licence.isEmpty() ? QString(work.licence) : summary.licence;
+        return {u"yes"_s, QString::number(summary.rows), licence};
+    } catch (const Error& error) {
+        return {u"damaged"_s, u"-"_s, error.text()};
+    }
 }
 
 } // namespace
@@ -112,12 +138,6 @@ QString Workshop::lineOf(const Work& work) const {
     const Order order = orderFor(m_options.folder, work.file);
     if (!order.replaces)
         return listLine({work.name, work.file, u"no"_s, u"-"_s, source}, ownFile);
-    try {
-        const FileSummary summary = summaryOf(order.path, work);
-        const QString licence = summary.licence.isEmpty() ? QString(work.licence) : summary.licence;
-        const QString rows = QString::number(summary.rows);
-        return listLine({work.name, work.file, u"yes"_s, rows, source}, licence);
-    } catch (const Error& error) {
-        return listLine({work.name, work.file, u"damaged"_s, u"-"_s, source}, error.text());
-    }
+    const Standing standing = standingOf(order.path, work);
+    return listLine({work.name, work.file, standing.there, standing.rows, source}, standing.rest);
 }

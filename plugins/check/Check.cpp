@@ -115,6 +115,10 @@ bool checkDataFile(const QString& path, Console& console) {
     CheckReport report;
     try {
         const QString file = hostPath(path);
+        if (file.isEmpty() && !path.isEmpty()) // all separators: the root of the host
+            throw Error(
+                Error::PathAccess,
+                u"The file \"%1\" is a folder or a device, and no data file."_s.arg(path));
         const bool isJet = isJetFile(file);
         isJet ? checkJetFile(file, report) : checkStoreFile(file, report);
     } catch (const Error& error) {

@@ -106,6 +106,7 @@ void TranslationMaker::writeVerses(
         }
         const VerseAddress& at = verse.address;
         const QString note = noteFor(verse, notes);
+        notes.compareBody(at, verse.body);
         writer.insert(
             u"tblMain"_s, {++m_rows, at.book, at.chapter, at.verse, verse.body,
                            note.isEmpty() ? QVariant() : QVariant(note)});

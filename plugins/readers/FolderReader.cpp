@@ -9,7 +9,7 @@
 using namespace Qt::StringLiterals;
 
 FolderReader::FolderReader(const QString& folder)
-    : m_folder(QDir(folder).dirName()) {
+    : m_folder(QDir(folder).isRoot() ? folder : QDir(folder).dirName()) {
     NameList others;
     const QDir files(folder, QString(), QDir::Name, QDir::Files);
     for (const QString& name : files.entryList()) {
@@ -22,7 +22,8 @@ FolderReader::FolderReader(const QString& folder)
     if (m_files.isEmpty())
         throw Error(
             Error::NotADatabase,
-            u"%1: there is no text in this folder that the program can read."_s.arg(m_folder));
+            u"%1: there is no book in USFM or XML in this folder. A text of another kind is "
+            u"imported by the name of its file."_s.arg(m_folder));
     others.report(m_remarks, u"files left out, since they are no books in USFM or XML"_s);
 }
 

@@ -72,7 +72,6 @@ std::unique_ptr<VerseSource> openModulePath(const QString& path) {
         throw Error(Error::NotADatabase, u"%1 holds no text of a Bible."_s.arg(path));
     if (modules.size() > 1)
         askForOne(path, modules);
-    checkModuleFiles(modules.front());
     auto module = SwordModule::open(rootOf(path), modules.front().name);
     if (!module)
         throw Error(

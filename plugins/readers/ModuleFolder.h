@@ -11,9 +11,8 @@
 // Whether the path (of the host) leads to a module or to a folder of modules.
 bool isModulePath(const QString& path);
 
-// Error::NotADatabase for a folder with several texts, which it names; for a module that is no
-// text, is locked, or whose files are not what its description says: the library would make
-// megabytes of garbage of these.
+// Error::NotADatabase for a folder with several texts, which it names, and for a module that
+// cannot be read.
 std::unique_ptr<VerseSource> openModulePath(const QString& path);
 
 // Ends with an error where the verses of another source are too long in coming.

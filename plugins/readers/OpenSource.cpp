@@ -174,6 +174,8 @@ std::unique_ptr<VerseSource> openVerseSource(const QString& path) {
     if (!info.exists())
         throw Error(
             Error::FileNotFound, u"There is no file or folder %1."_s.arg(info.absoluteFilePath()));
+    if (!info.isDir() && !info.isFile()) // reading a pipe may never end
+        refuse(path, u"this is neither a file nor a folder"_s);
     if (!info.isDir())
         return openFile(path);
     return isModulePath(path) ? openModulePath(path) : std::make_unique<FolderReader>(path);

@@ -111,6 +111,8 @@ std::optional<CommentEntry> SwordComments::next() {
         state.started = true;
         if (state.key.popError() != 0)
             return std::nullopt;
+        if (state.key.getBook() < 1) // the introduction of a testament: the library names no book
+            continue;
         if (const QString id = QString::fromUtf8(state.key.getOSISBookName()); id != state.bookId) {
             state.bookId = id;
             state.book = findBook(id);

@@ -1,11 +1,11 @@
 #include "readers/SwordModule.h"
 
 #include "basic/Error.h"
+#include "readers/ModuleFiles.h"
 #include "readers/SwordLibrary.h"
 
 #include <QFile>
-#include <QFileInfo>
-#include <cstring>
+#include <optional>
 
 #include <swmgr.h>
 #include <swmodule.h>
@@ -36,6 +36,21 @@ private:
     QByteArray m_name;
 };
 
+std::optional<ModuleEntry> findModule(const QString& folder, const QString& name) {
+    for (ModuleEntry& module : modulesIn(folder)) {
+        if (module.name == name)
+            return std::move(module);
+    }
+    return std::nullopt;
+}
+
+// Leaves the key on the last place.
+ModulePlaces placesOf(sword::VerseKey& key) {
+    key.setPosition(sword::BOTTOM);
+    const long last = key.getTestamentIndex();
+    return {key.getIndex() - last + 1, last + 1};
+}
+
 } // namespace
 
 class SwordModule::State {
@@ -49,8 +64,10 @@ public:
 };
 
 std::unique_ptr<SwordModule> SwordModule::open(const QString& folder, const QString& name) {
-    if (!QFileInfo(folder + u"/mods.d"_s).isDir())
+    const std::optional<ModuleEntry> entry = findModule(folder, name);
+    if (!entry)
         return nullptr;
+    checkModuleFiles(*entry);
     isolateSwordLibrary();
     auto state = std::make_unique<State>();
     state->library = std::make_unique<OneModule>(QFile::encodeName(folder), name.toUtf8());
@@ -64,7 +81,7 @@ std::unique_ptr<SwordModule> SwordModule::open(const QString& folder, const QStr
     state->key->setIntros(false);
     state->key->setPersist(true);
     state->module->setKey(state->key.get());
-    state->key->setPosition(sword::BOTTOM);
+    checkModuleLength(*entry, placesOf(*state->key));
     state->lastIndex = std::max(state->key->getIndex(), 1L);
     return std::unique_ptr<SwordModule>(new SwordModule(std::move(state)));
 }

@@ -8,7 +8,9 @@
 class SwordModule {
 public:
     // Opens the module `name` in `folder` (the one that holds mods.d); nullptr where the folder has
-    // no such module. Error::NotADatabase for a module that is not kept by verses.
+    // no such module. Error::NotADatabase for a module that is no text of verses, is locked, or
+    // whose files are cut off, damaged or not what its description says: the library would make
+    // megabytes of garbage of these.
     static std::unique_ptr<SwordModule> open(const QString& folder, const QString& name);
     ~SwordModule();
     Q_DISABLE_COPY_MOVE(SwordModule)

@@ -38,6 +38,7 @@ std::optional<Verse> SwordVerses::currentVerse() {
         m_rules.correct(address, text);
     if (text.text().isEmpty())
         return std::nullopt;
+    m_ends.see(address);
     return Verse{address, storedBody(text)};
 }
 
@@ -61,6 +62,7 @@ QStringList SwordVerses::remarks() const {
         remarks.append(
             u"%1 verse(s) with damaged mark-up taken as plain text, the first one %2"_s.arg(
                 QString::number(m_damagedVerses), verseName(m_firstDamaged)));
+    m_ends.report(remarks);
     return remarks;
 }
 

@@ -1,6 +1,7 @@
 // The verses of a SWORD module in OSIS mark-up.
 #pragma once
 
+#include "readers/BookEnds.h"
 #include "readers/SwordModule.h"
 #include "readers/VerseSource.h"
 #include "text/OsisFragments.h"
@@ -32,6 +33,7 @@ private:
     OsisFragments m_fragments;
     QString m_bookId; // the one that m_book was found by
     const Book* m_book = nullptr;
+    BookEnds m_ends;
     QStringList m_booksLeftOut;
     int m_damagedVerses = 0;
     VerseAddress m_firstDamaged;

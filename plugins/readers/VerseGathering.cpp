@@ -75,8 +75,7 @@ void VerseGathering::beginVerse(const VerseAddress& address) {
         m_place = Place::Verse;
         m_text = std::exchange(m_title, {});
         m_text.separate();
-        int& last = m_lastChapters.at(address.book);
-        last = std::max(last, address.chapter);
+        m_ends.see(address);
     } else if (address.book == Psalms) {
         m_zeroTitles.add(placeName());
         m_place = Place::Title;
@@ -172,12 +171,6 @@ QString VerseGathering::placeName() const {
 }
 
 QStringList VerseGathering::remarks() const {
-    NameList early;
-    for (const Book& book : books()) {
-        const int last = m_lastChapters.at(book.number);
-        if (last > 0 && last < book.chapters)
-            early.add(u"%1 (%2 of %3)"_s.arg(book.name).arg(last).arg(book.chapters));
-    }
     QStringList remarks;
     m_booksLeftOut.report(remarks, u"left out, since they are none of the 66 books"_s);
     m_unnumbered.report(remarks, u"left out, since their numbers cannot be read"_s);
@@ -186,6 +179,6 @@ QStringList VerseGathering::remarks() const {
     m_ranges.report(remarks, u"verses that stand together, kept at the first one"_s);
     m_parts.report(remarks, u"parts of verses, kept under the number of the verse"_s);
     m_strays.report(remarks, u"words outside of verses left out"_s);
-    early.report(remarks, u"books that end before their last chapter"_s);
+    m_ends.report(remarks);
     return remarks;
 }

@@ -2,12 +2,12 @@
 // them, whatever the format, and keeps in mind what the user should know of the reading.
 #pragma once
 
+#include "readers/BookEnds.h"
 #include "readers/NameList.h"
 #include "readers/VerseSource.h"
 #include "text/MarkedText.h"
 
 #include <QList>
-#include <array>
 
 class VerseGathering {
 public:
@@ -72,5 +72,5 @@ private:
     NameList m_ranges;
     NameList m_parts;
     NameList m_strays;
-    std::array<int, 67> m_lastChapters{}; // of each book, by its number
+    BookEnds m_ends;
 };

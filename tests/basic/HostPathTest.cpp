@@ -62,6 +62,11 @@ TEST_F(HostPath, theProgramsFolderIsElseTheUsersDataFolder) {
     EXPECT_TRUE(QDir::isAbsolutePath(programFolder()));
 }
 
+TEST_F(HostPath, theRootIsAPathToo) {
+    EXPECT_EQ(hostPath(u"/"_s), u"/"_s);
+    EXPECT_EQ(hostPath(u"\\"_s), u"/"_s);
+}
+
 TEST_F(HostPath, drivesAreFoldersBelowTheProgramsFolder) {
     make(u"drives/c/bibles/kjv.mdb"_s);
     EXPECT_EQ(hostPath(u"c:\\bibles\\kjv.mdb"_s), home + u"/drives/c/bibles/kjv.mdb"_s);

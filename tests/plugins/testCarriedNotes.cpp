@@ -6,6 +6,10 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#ifdef Q_OS_LINUX
+#include "plugins/jet/SmallDisk.h"
+#endif
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -16,14 +20,18 @@ protected:
     void SetUp() override { ASSERT_EQ(makeFrom({"Gen 1:1", "Gen 1:2", "Gen 1:3"}).exitCode, 0); }
 
     ToolRun makeFrom(const std::vector<QByteArray>& verses) {
-        QTemporaryDir modules;
         SmallModule module;
         for (const QByteArray& verse : verses)
             module.entries.emplace_back(verse, "text of " + verse);
+        return makeFrom(module, folder.path());
+    }
+
+    static ToolRun makeFrom(const SmallModule& module, const QString& destination) {
+        const QTemporaryDir modules;
         module.writeTo(modules.path());
         return runTool(
             {u"make"_s, u"kjv"_s, u"--force"_s, u"--from"_s, modules.path(), u"--to"_s,
-             folder.path()});
+             destination});
     }
 
     void addRow(const VerseAddress& address, const QString& note) {
@@ -112,3 +120,49 @@ TEST_F(CarriedNotesTest, aFileWhoseNotesCannotBeReadStaysAsItIs) {
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll(), damaged);
 }
+
+#ifdef Q_OS_LINUX
+
+namespace {
+
+// With the file on a disk of its own.
+class MakeOnSmallDiskTest : public CarriedNotesTest {
+protected:
+    void SetUp() override {
+        CarriedNotesTest::SetUp();
+        setNote(path, {1, 1, 1}, u"mine"_s);
+        if (!disk.mount(256))
+            GTEST_SKIP() << "no right to mount";
+        ASSERT_TRUE(QFile::copy(path, file));
+    }
+
+    void expectFailure(const SmallModule& module) {
+        const ToolRun run = makeFrom(module, disk.folder());
+        EXPECT_EQ(run.exitCode, 1);
+        EXPECT_TRUE(run.errors.startsWith(u"KJV.mdb was not made: "_s)) << qPrintable(run.errors);
+        EXPECT_EQ(filesIn(disk.folder()), QStringList(u"KJV.mdb"_s));
+        EXPECT_EQ(rowsOf(file, u"tblMain"_s), rowsOf(path, u"tblMain"_s));
+    }
+
+    SmallDisk disk;
+    const QString file = disk.folder() + u"/KJV.mdb"_s;
+};
+
+} // namespace
+
+TEST_F(MakeOnSmallDiskTest, aFullOneKeepsTheFileThatWasThere) {
+    SmallModule module;
+    for (int verse = 1; verse <= 31; ++verse)
+        module.entries.emplace_back(
+            "Gen 1:" + QByteArray::number(verse), QByteArray("word ").repeated(4000));
+    expectFailure(module);
+}
+
+TEST_F(MakeOnSmallDiskTest, aWriteProtectedOneKeepsTheFileThatWasThere) {
+    ASSERT_TRUE(disk.protect());
+    SmallModule module;
+    module.entries = {{"Gen 1:1", "In"}};
+    expectFailure(module);
+}
+
+#endif

@@ -3,6 +3,7 @@
 #include "basic/Error.h"
 #include "readers/SwordVerses.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -38,7 +39,31 @@ TEST_F(SwordVersesTest, yieldsTheVersesThatTheModuleHolds) {
         readAll(verses),
         QStringList({u"Genesis 1:1 In the beginning"_s, u"Revelation 22:21 Amen."_s}));
     EXPECT_DOUBLE_EQ(verses.fraction(), 1);
+}
+
+TEST_F(SwordVersesTest, namesTheBooksThatEndEarly) {
+    module.entries = {
+        {"Gen 1:1", "In"}, {"Gen 49:1", "And"}, {"Jude 1:1", "Jude"}, {"Rev 22:21", "Amen"}};
+    SwordVerses verses(open(), u"here"_s, {});
+    readAll(verses);
+    EXPECT_EQ(
+        verses.remarks(),
+        QStringList(u"books that end before their last chapter: Genesis (49 of 50)"_s));
+}
+
+TEST_F(SwordVersesTest, aWholeTextHasNoRemark) {
+    module.entries = {{"Jude 1:25", "To the only wise God"}, {"Rev 22:21", "Amen"}};
+    SwordVerses verses(open(), u"here"_s, {});
+    EXPECT_EQ(readAll(verses).size(), 2);
     EXPECT_TRUE(verses.remarks().isEmpty());
+}
+
+TEST_F(SwordVersesTest, aFileThatIsCutOffIsRefusedWhateverItIsReadFor) {
+    module.entries = {{"Gen 1:1", "In"}};
+    ASSERT_NE(open(), nullptr);
+    QFile index(folder.filePath(u"modules/%1/nt.vss"_s.arg(module.name)));
+    ASSERT_TRUE(index.resize(index.size() - 6));
+    EXPECT_THROW(SwordModule::open(folder.path(), module.name), Error);
 }
 
 TEST_F(SwordVersesTest, skipsAVerseWithoutWords) {
@@ -56,21 +81,21 @@ TEST_F(SwordVersesTest, writesTheRedLetterPrefix) {
 TEST_F(SwordVersesTest, leavesTheApocryphaOutAndSaysSo) {
     module.verseScheme = "KJVA";
     module.entries = {
-        {"Gen 1:1", "In"}, {"Tob 1:1", "The book"}, {"Tob 1:2", "who"}, {"Matt 1:1", "The"}};
+        {"Gen 50:1", "In"}, {"Tob 1:1", "The book"}, {"Tob 1:2", "who"}, {"Matt 28:1", "The"}};
     SwordVerses verses(open(), u"here"_s, {});
-    EXPECT_EQ(readAll(verses), QStringList({u"Genesis 1:1 In"_s, u"Matthew 1:1 The"_s}));
+    EXPECT_EQ(readAll(verses), QStringList({u"Genesis 50:1 In"_s, u"Matthew 28:1 The"_s}));
     EXPECT_EQ(
         verses.remarks(), QStringList(u"left out, since they are none of the 66 books: Tob"_s));
 }
 
 TEST_F(SwordVersesTest, countsDamagedVerses) {
-    module.entries = {{"Gen 1:1", "In</w>"}, {"Gen 1:2", "<w>And"}, {"Gen 1:3", "God"}};
+    module.entries = {{"Gen 50:1", "In</w>"}, {"Gen 50:2", "<w>And"}, {"Gen 50:3", "God"}};
     SwordVerses verses(open(), u"here"_s, {});
     EXPECT_EQ(readAll(verses).size(), 3);
     EXPECT_EQ(
         verses.remarks(),
         QStringList(
-            u"2 verse(s) with damaged mark-up taken as plain text, the first one Genesis 1:1"_s));
+            u"2 verse(s) with damaged mark-up taken as plain text, the first one Genesis 50:1"_s));
 }
 
 TEST_F(SwordVersesTest, readsAModuleInLatin1) {

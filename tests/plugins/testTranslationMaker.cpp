@@ -35,11 +35,11 @@ private:
 
 class TranslationMakerTest : public testing::Test {
 protected:
-    MadeFile make(QList<Verse> verses) {
+    MadeFile make(QList<Verse> verses, bool replaces = false) {
         Console console{stream, stream};
         Progress progress(console, u"test"_s);
         TranslationMaker maker(std::make_unique<ListedVerses>(std::move(verses)));
-        return maker.make({path, false}, progress);
+        return maker.make({path, replaces}, progress);
     }
 
     std::ostringstream stream;
@@ -91,6 +91,22 @@ TEST_F(TranslationMakerTest, takesARepeatedVerseOnceAndSaysSo) {
     EXPECT_EQ(made.rows, 2);
     EXPECT_EQ(verseField(path, {1, 1, 1}, u"body"_s), u"first"_s);
     EXPECT_EQ(made.remarks.last(), u"verses that the source repeats, taken once: Genesis 1:1"_s);
+}
+
+TEST_F(TranslationMakerTest, saysHowManyVersesLoseTheirRed) {
+    const QString red = u"\u001E000:003red"_s;
+    make({{{1, 1, 1}, red}, {{1, 1, 2}, red}, {{1, 1, 3}, red}, {{1, 1, 4}, u"black"_s}});
+    const MadeFile made =
+        make({{{1, 1, 1}, u"red"_s}, {{1, 1, 2}, red + u'.'}, {{1, 1, 4}, u"black"_s}}, true);
+    EXPECT_EQ(
+        made.remarks.last(),
+        u"2 verse(s) of the old file had words in red that the new text has not"_s);
+}
+
+TEST_F(TranslationMakerTest, saysNothingOfRedThatStays) {
+    const QList<Verse> verses = {{{1, 1, 1}, u"\u001E000:003red"_s}, {{1, 1, 2}, u"black"_s}};
+    make(verses);
+    EXPECT_EQ(make(verses, true).remarks, QStringList(u"from the source"_s));
 }
 
 TEST_F(TranslationMakerTest, aSourceWithoutAVerseIsAnErrorAndMakesNothing) {

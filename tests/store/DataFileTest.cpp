@@ -1,6 +1,7 @@
 // Making data files: whole or not at all.
 #include "StoreFixture.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 
@@ -76,6 +77,23 @@ TEST_F(DataFile, isNotHarmedByAJournalThatADeadProgramLeft) {
         EXPECT_EQ(openByVerse(u"other.mdb"_s).Fields(4).Value(), QVariant(u"new"_s));
         QFile::remove(path(u"other.mdb"_s));
     }
+}
+
+TEST_F(DataFile, clearsAwayWhatDeadProgramsLeftButNotWhatOthersAreWriting) {
+    const QString dead = u"test.mdb.new-0123456789abcdef0123456789abcdef"_s;
+    const QString atWork = u"test.mdb.new-fedcba9876543210fedcba9876543210"_s;
+    const QStringList others = {
+        u"test.mdb.new-notes"_s, u"other.mdb.new-0123456789abcdef0123456789abcdef"_s};
+    for (const QString& name : others + QStringList{dead, dead + u"-journal"_s, atWork}) {
+        write(name, "half a file");
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        const int age = name == atWork ? 10 : 2 * 60 * 60;
+        file.setFileTime(
+            QDateTime::currentDateTime().addSecs(-age), QFileDevice::FileModificationTime);
+    }
+    makeTranslation({{1, 1, 1}});
+    EXPECT_EQ(files(), QStringList({others[1], u"test.mdb"_s, atWork, others[0]}));
 }
 
 TEST_F(DataFile, keepsValuesAsTheyAre) {

@@ -5,6 +5,7 @@
 //   fill FILE FIELD COUNT writes 1 ... COUNT into a field of the rows 1 ... COUNT
 //   lock FILE [TIME]      holds the file as a program does that is writing, until its input ends or
 //                         for so many milliseconds
+//   note FILE TEXT        begins to edit row 1, and writes its note when the input ends
 //   look FILE             as a user without rights: opens, reads, tries to write, reports
 #include "basic/Error.h"
 #include "store/StoreTuning.h"
@@ -13,6 +14,7 @@
 #include <QCoreApplication>
 #include <QStringList>
 #include <iostream>
+#include <limits>
 
 #ifdef Q_OS_UNIX
 #include <fcntl.h>
@@ -88,6 +90,17 @@ void reportError(const QString& what, const std::function<void()>& operation) {
     }
 }
 
+// Who is kept from writing is told so at once.
+void note(const QString& path, const QString& text) {
+    storeTuning().busyTimeout = std::chrono::milliseconds(20);
+    Recordset cursor = openTable(path);
+    cursor.Edit();
+    cursor.Fields(u"note"_s) = text;
+    report(u"open"_s);
+    std::cin.ignore(std::numeric_limits<std::streamsize>::max());
+    reportError(u"update"_s, [&] { cursor.Update(); });
+}
+
 void look([[maybe_unused]] const QString& path) {
 #ifdef Q_OS_UNIX
     constexpr uid_t Nobody = 65534;
@@ -113,6 +126,8 @@ void run(const QStringList& arguments) {
         fill(path, arguments[3], arguments[4].toInt());
     else if (task == u"lock")
         lock(path, arguments.size() > 3 ? arguments[3].toInt() : -1);
+    else if (task == u"note")
+        note(path, arguments[3]);
     else if (task == u"look")
         look(path);
 }

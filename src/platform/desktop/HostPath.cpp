@@ -40,7 +40,7 @@ QString resolveNames(QString folder, const QStringList& names) {
         folder += u'/' + resolved;
         exists = exists && QFileInfo::exists(folder);
     }
-    return folder;
+    return folder.isEmpty() ? u"/"_s : folder;
 }
 
 #endif

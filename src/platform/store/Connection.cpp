@@ -157,6 +157,16 @@ std::optional<quint32> Connection::changeCounter() const {
     return qFromBigEndian<quint32>(bytes + ChangeCounterOffset - FormatVersionOffset);
 }
 
+QString Connection::path() const {
+    return QString::fromUtf8(sqlite3_db_filename(m_handle, "main"));
+}
+
+bool Connection::isMoved() const {
+    int isMoved = 0;
+    sqlite3_file_control(m_handle, "main", SQLITE_FCNTL_HAS_MOVED, &isMoved);
+    return isMoved != 0;
+}
+
 void Connection::syncFile() const {
     sqlite3_file* const opened = file();
     const int code = opened->pMethods->xSync(opened, SQLITE_SYNC_FULL);

@@ -24,6 +24,9 @@ public:
 
     // The file's name as messages show it.
     const QString& shownName() const { return m_shownName; }
+
+    // Where the engine has the file: absolute, and of the host.
+    QString path() const;
     bool isWritable() const { return m_isWritable; }
     void setReadOnly() { m_isWritable = false; }
 
@@ -42,6 +45,9 @@ public:
     // The number that every committed write of any program changes; without any lock. No value
     // when the file is in a state in which the number does not tell.
     std::optional<quint32> changeCounter() const;
+
+    // Whether another file, or none, stands at the path by now.
+    bool isMoved() const;
 
     // Waits until the disk has the file.
     void syncFile() const;

@@ -14,6 +14,11 @@ void DatabaseState::checkOpen() const {
         throw Error(Error::AlreadyClosed, u"The database is closed."_s);
 }
 
+const Connection& DatabaseState::connection() const {
+    checkOpen();
+    return *m_connection;
+}
+
 std::shared_ptr<CursorState> DatabaseState::openCursor(const QString& source, RecordsetType type) {
     checkOpen();
     std::shared_ptr<CursorState> cursor =

@@ -17,6 +17,8 @@ public:
 
     // Closes the cursors first, so that nothing holds the file any more.
     void close();
+    // Error::AlreadyClosed if it is closed.
+    const Connection& connection() const;
     bool isClosed() const { return !m_connection; }
 
 private:

@@ -3,8 +3,11 @@
 #include "basic/Error.h"
 #include "store/Connection.h"
 
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QUuid>
 #include <filesystem>
 #include <sqlite3.h>
@@ -33,11 +36,30 @@ void syncFolderOf([[maybe_unused]] const QString& path) {
 #endif
 }
 
+// Far longer than a file is in the making without being written to.
+constexpr int SecondsUntilLeftOver = 60 * 60;
+
+// What programs left that were killed while they made the file. Younger ones may be in the making.
+void removeLeftovers(const QString& destination) {
+    const QFileInfo file(destination);
+    static const QRegularExpression ending(u"^\\.new-[0-9a-f]{32}(-journal)?$"_s);
+    const QDateTime limit = QDateTime::currentDateTime().addSecs(-SecondsUntilLeftOver);
+    for (const QFileInfo& other : file.dir().entryInfoList(QDir::Files | QDir::Hidden)) {
+        const QString name = other.fileName();
+        if (name.startsWith(file.fileName())
+            && ending.match(name.sliced(file.fileName().size())).hasMatch()
+            && other.lastModified() < limit)
+            QFile::remove(other.filePath());
+    }
+}
+
 } // namespace
 
 FileSwap::FileSwap(const QString& destination)
     : m_destination(destination)
-    , m_path(destination + u".new-"_s + QUuid::createUuid().toString(QUuid::Id128)) {}
+    , m_path(destination + u".new-"_s + QUuid::createUuid().toString(QUuid::Id128)) {
+    removeLeftovers(destination);
+}
 
 FileSwap::~FileSwap() {
     QFile::remove(m_path);

@@ -6,6 +6,7 @@
 
 class FileSwap {
 public:
+    // Clears away what killed programs left of the same destination an hour ago or earlier.
     explicit FileSwap(const QString& destination);
 
     // Removes the new file if it was not put in its place.

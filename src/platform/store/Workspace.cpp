@@ -61,6 +61,10 @@ Recordset Database::OpenRecordset(const QString& source, RecordsetType type) {
     return Recordset(stateOf(m_state).openCursor(source, type));
 }
 
+const Connection& Database::connection() const {
+    return stateOf(m_state).connection();
+}
+
 void Database::Close() {
     stateOf(m_state).close();
 }

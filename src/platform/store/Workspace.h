@@ -13,6 +13,7 @@
 #include <QString>
 #include <memory>
 
+class Connection;
 class WorkspaceState;
 class DatabaseState;
 
@@ -32,7 +33,10 @@ public:
 
 private:
     friend class Workspace;
+    friend class WriteBarrier;
     explicit Database(std::shared_ptr<DatabaseState> state);
+
+    const Connection& connection() const;
 
     std::shared_ptr<DatabaseState> m_state;
 };

@@ -3,9 +3,11 @@
 
 #include "store/DataFile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -153,6 +155,21 @@ TEST_F(Check, sayWhyAFileCannotBeOpened) {
     file.write("no database");
     file.close();
     expectWrong(u"The file \"%1\" is not a data file of Lumenvia."_s.arg(path()));
+}
+
+TEST_F(Check, namesWhatIsNoFile) {
+    ASSERT_EQ(mkfifo(qPrintable(path()), 0600), 0);
+    expectWrong(u"The file \"%1\" is a folder or a device, and no data file."_s.arg(path()));
+    const QString root = QDir::rootPath();
+    EXPECT_TRUE(runTool({u"check"_s, root})
+                    .out.contains(u"The file \"%1\" is a folder or a device"_s.arg(root)));
+}
+
+TEST_F(Check, aConversionDoesNotReadAPipe) {
+    ASSERT_EQ(mkfifo(qPrintable(path()), 0600), 0);
+    const ToolRun run = runTool({u"convert"_s, path()});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.errors, u"The file %1 cannot be read.\n"_s.arg(path()));
 }
 
 TEST_F(Check, findsAPageThatWasOverwritten) {

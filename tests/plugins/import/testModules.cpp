@@ -1,5 +1,6 @@
 // A user's own SWORD modules.
 #include "plugins/SmallModule.h"
+#include "plugins/import/CompressedModule.h"
 #include "plugins/import/ImportFixture.h"
 
 #include "basic/Error.h"
@@ -80,6 +81,55 @@ TEST_F(ModuleTest, anIndexThatLeadsOutOfTheTextIsRefused) {
     ASSERT_TRUE(QFile::resize(source.filePath(u"modules/one/nt"_s), 1));
     EXPECT_FALSE(import(source.path()));
     expectError(u"The files of the module one are damaged"_s);
+}
+
+TEST_F(ModuleTest, anIndexThatIsCutOffIsNamed) {
+    writeModule(u"one"_s, "In");
+    QFile index(source.filePath(u"modules/one/nt.vss"_s));
+    const qint64 entries = index.size() / 6;
+    ASSERT_TRUE(index.resize(index.size() - 6));
+    EXPECT_FALSE(import(source.path()));
+    expectError(u"The file %1 is cut off: it has %2 entries; the verses of the module need %3."_s
+                    .arg(index.fileName())
+                    .arg(entries - 1)
+                    .arg(entries));
+}
+
+TEST_F(ModuleTest, anEmptyIndexBesideItsTextIsCutOff) {
+    writeModule(u"one"_s, "In");
+    ASSERT_TRUE(QFile::resize(source.filePath(u"modules/one/ot.vss"_s), 0));
+    EXPECT_FALSE(import(source.path()));
+    expectError(u"ot.vss is cut off: it has 0 entries"_s);
+}
+
+TEST_F(ModuleTest, aModuleOfOneTestamentIsWhole) {
+    writeModule(u"one"_s, "In");
+    ASSERT_TRUE(QFile::remove(source.filePath(u"modules/one/ot.vss"_s)));
+    ASSERT_TRUE(QFile::remove(source.filePath(u"modules/one/ot"_s)));
+    ASSERT_TRUE(import(source.path())) << qPrintable(errors);
+    EXPECT_EQ(stored(), QStringList(u"Revelation 22:21 Amen"_s));
+}
+
+TEST_F(ModuleTest, emptyFilesOfATestamentAreNone) {
+    writeModule(u"one"_s, "In");
+    ASSERT_TRUE(QFile::resize(source.filePath(u"modules/one/ot.vss"_s), 0));
+    ASSERT_TRUE(QFile::resize(source.filePath(u"modules/one/ot"_s), 0));
+    ASSERT_TRUE(import(source.path())) << qPrintable(errors);
+    EXPECT_EQ(stored().size(), 1);
+}
+
+TEST_F(ModuleTest, aBlockThatDoesNotUnpackIsRefused) {
+    SmallModule module;
+    module.entries = {{"Gen 1:1", "In the beginning God created the heaven and the earth."}};
+    writeCompressed(module, source.path());
+    ASSERT_TRUE(import(source.path())) << qPrintable(errors);
+    ASSERT_TRUE(QFile::remove(path));
+    QFile text(source.filePath(u"modules/%1/ot.bzz"_s.arg(module.name)));
+    ASSERT_TRUE(text.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(text.seek(20) && text.write("\0\0\0\0", 4) == 4);
+    text.close();
+    EXPECT_FALSE(import(source.path()));
+    expectError(u"are damaged, or are not of the driver zText that "_s);
 }
 
 TEST_F(ModuleTest, aLockedModuleIsRefused) {

@@ -1,6 +1,8 @@
 // What is told of files that are no text, letter for letter.
 #include "plugins/import/ImportFixture.h"
 
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -64,9 +66,32 @@ TEST_F(ImportTest, aFolderWithoutTextsIsRefused) {
     writeFile(source.path() + u"/none"_s, u"README.txt"_s, "About this text\n");
     EXPECT_FALSE(import(source.path() + u"/none"_s));
     EXPECT_TRUE(
-        errors.endsWith(u"none: there is no text in this folder that the program can read.\n"_s))
+        errors.endsWith(u"none: there is no book in USFM or XML in this folder. A text of another "
+                        u"kind is imported by the name of its file.\n"_s))
         << qPrintable(errors);
     expectNothingMade();
+}
+
+TEST_F(ImportTest, aDelimitedTextIsReadByItsFileAndNotByItsFolder) {
+    const QString file = writeFile(source.path() + u"/one"_s, u"one.txt"_s, "Gen\t1\t1\tIn\n");
+    EXPECT_FALSE(import(source.path() + u"/one"_s));
+    EXPECT_TRUE(errors.contains(u"is imported by the name of its file"_s)) << qPrintable(errors);
+    EXPECT_TRUE(import(file)) << qPrintable(errors);
+}
+
+TEST_F(ImportTest, aPipeIsRefused) {
+    const QString pipe = source.filePath(u"pipe"_s);
+    ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
+    EXPECT_FALSE(import(pipe));
+    EXPECT_EQ(errors, u"DARBY.mdb was not made: pipe: this is neither a file nor a folder\n"_s);
+}
+
+TEST_F(ImportTest, aDeviceIsRefused) {
+    for (const QString& device : {u"/dev/null"_s, u"/dev/zero"_s, u"/dev/full"_s}) {
+        EXPECT_FALSE(import(device));
+        EXPECT_TRUE(errors.endsWith(u": this is neither a file nor a folder\n"_s))
+            << qPrintable(errors);
+    }
 }
 
 TEST_F(ImportTest, aFileThatIsNotThereIsNamed) {

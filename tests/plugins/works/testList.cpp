@@ -5,7 +5,9 @@
 #include "Works.h"
 #include "store/DataFile.h"
 
+#include <QDir>
 #include <QRegularExpression>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -80,6 +82,29 @@ TEST_F(List, aDamagedFileIsToldInItsLineAndTheRestGoesOn) {
     ASSERT_EQ(make(u"topics"_s).exitCode, 0);
     EXPECT_TRUE(line(u"kjv"_s).startsWith(u"kjv KJV.mdb damaged - sword-text-kjv The file "_s));
     EXPECT_EQ(line(u"topics"_s), u"topics topics.mdb yes 0 (none) the user's own"_s);
+}
+
+TEST_F(List, aJetDatabaseIsNotDamaged) {
+    QFile file(folder.filePath(u"DARBY.mdb"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray("\0\1\0\0Standard Jet DB\0\1\0\0\0", 24) + QByteArray(4072, '\0'));
+    file.close();
+    EXPECT_EQ(
+        line(u"darby"_s), u"darby DARBY.mdb Jet - your own file a Jet database, which the program "
+                          u"converts when it opens it"_s);
+}
+
+TEST_F(List, aFolderUnderTheNameIsNotDamaged) {
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"KJV.mdb"_s));
+    EXPECT_EQ(
+        line(u"kjv"_s), u"kjv KJV.mdb folder - sword-text-kjv a folder stands under this name"_s);
+}
+
+TEST_F(List, aPipeUnderTheNameIsNotRead) {
+    ASSERT_EQ(mkfifo(qPrintable(folder.filePath(u"KJV.mdb"_s)), 0600), 0);
+    EXPECT_EQ(
+        line(u"kjv"_s),
+        u"kjv KJV.mdb device - sword-text-kjv what stands under this name is no file"_s);
 }
 
 TEST_F(List, aFileOfAnotherWorkIsTold) {
