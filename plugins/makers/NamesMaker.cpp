@@ -1,11 +1,13 @@
 #include "makers/NamesMaker.h"
 
 #include "Progress.h"
-#include "makers/Headwords.h"
 #include "makers/InfoRow.h"
 #include "readers/DataLines.h"
 #include "store/DataFile.h"
 #include "text/ProperNames.h"
+
+#include <QRegularExpression>
+#include <map>
 
 using namespace Qt::StringLiterals;
 
@@ -13,13 +15,38 @@ namespace {
 
 constexpr double HebrewPart = 0.6; // of the work
 
-using Names = Headwords<QStringList>;
+// "Cæsar" stands beside "Caesar".
+struct PlainOrder {
+    bool operator()(const QString& left, const QString& right) const {
+        const int order = plainSpelling(left).compare(plainSpelling(right), Qt::CaseInsensitive);
+        return order < 0 || (order == 0 && left.compare(right, Qt::CaseInsensitive) < 0);
+    }
+};
+
+using Names = std::map<QString, QStringList, PlainOrder>;
 
 // A source may hold an entry twice.
 void add(Names& names, const QString& name, const QString& meaning) {
     QStringList& meanings = names[name];
     if (!meanings.contains(meaning))
         meanings.append(meaning);
+}
+
+// The dictionaries name one of a people, "Ammonite", where the Bible mostly speaks of all of them.
+void addPeoples(Names& names) {
+    static const QRegularExpression ending(u"[a-z\u00E6](?:ite|ean|\u00E6an|ian)$"_s);
+    static const QRegularExpression people(
+        u"\\b(?:inhabitant|descendant|native|follower|belonging)"_s);
+    const Names ones = names;
+    for (const auto& [name, meanings] : ones) {
+        if (!name.endsWith("ite"_L1) && !name.endsWith("ites"_L1)
+            && !people.match(meanings.join(u' ')).hasMatch())
+            continue;
+        if (ending.match(name).hasMatch())
+            names.try_emplace(name + u's', meanings);
+        else if (name.endsWith(u's') && ending.match(name.chopped(1)).hasMatch())
+            names.try_emplace(name.chopped(1), meanings);
+    }
 }
 
 void add(Names& names, const QList<ProperName>& found) {
@@ -56,6 +83,7 @@ MadeFile NamesMaker::make(const Order& order, Progress& progress) {
         add(names, namesOfGreekEntry(entry->key, readGreekEntry(entry->text)));
         progress.advance(HebrewPart + m_greek->fraction() * (1 - HebrewPart));
     }
+    addPeoples(names);
     DataFileWriter writer(order.path);
     writer.execute("CREATE TABLE tblnames (ID INTEGER PRIMARY KEY, name TEXT, definition TEXT)");
     qlonglong id = 0;

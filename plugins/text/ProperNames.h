@@ -15,3 +15,6 @@ struct ProperName {
 // number, with or without zeros before it.
 QList<ProperName> namesOfHebrewEntry(const QString& key, const QString& markup);
 QList<ProperName> namesOfGreekEntry(const QString& key, const GreekEntry& entry);
+
+// "Aeneas" for "Æneas": the letters that people type, and that names are sorted by.
+QString plainSpelling(QString name);

@@ -57,6 +57,13 @@ TEST(ProperNames, aNameHasItsMeaningAndWhoBearsIt) {
                     u"[H22]"_s));
 }
 
+TEST(ProperNames, whatIsSaidTwiceStandsOnce) {
+    EXPECT_EQ(
+        namesOf("From <ref>H1</ref>; <hi>father</hi>; <hi>father</hi>; <hi>Abiel</hi>, an "
+                "<hi>Israelite:</hi> - Abiel."),
+        QStringList(u"Abiel: father. Abiel, an Israelite. [H22]"_s));
+}
+
 TEST(ProperNames, lostCommasAreRestored) {
     EXPECT_EQ(
         namesOf("Of uncertain derivation; bundle6<lb/> knot (that {is} {in} {all}) ({-less}) more; "
@@ -82,6 +89,33 @@ TEST(ProperNames, aNameAmongOtherRenderingsIsOneIfTheMeaningNamesIt) {
     EXPECT_EQ(
         namesOf("From H1; humiliated; {Kenaan} a son of Ham: - {Canaan} {merchant} traffick."),
         QStringList(u"Canaan: humiliated. Kenaan, a son of Ham. [H22]"_s));
+}
+
+TEST(ProperNames, aCommonWordBehindANameLeavesItOne) {
+    const GreekEntry peter =
+        readGreekEntry(u"<orth type=\"trans\">Petros</orth><def><orig>apparently a primary "
+                       u"word;</orig> a rock; as "
+                       u"a name, Petrus:--Peter, rock. </def>"_s);
+    const QList<ProperName> names = namesOfGreekEntry(u"04074"_s, peter);
+    ASSERT_EQ(names.size(), 1);
+    EXPECT_EQ(names[0].name, u"Peter"_s);
+}
+
+TEST(ProperNames, endingsInBracketsAreNamesOfTheirOwn) {
+    const QList<ProperName> names = namesOfGreekEntry(
+        u"02455"_s, readGreekEntry(QString::fromUtf8(greek("Judas", "Juda(-h, -s); Jude"))));
+    ASSERT_EQ(names.size(), 4);
+    EXPECT_EQ(names[2].name, u"Judas"_s);
+    EXPECT_EQ(names[3].name, u"Jude"_s);
+}
+
+TEST(ProperNames, anOriginIsNoMeaning) {
+    EXPECT_EQ(
+        namesOf("(Chaldee); patrial from H895; a Babylonian: - Babylonia."),
+        QStringList(u"Babylonia: a Babylonian. [H22]"_s));
+    EXPECT_EQ(
+        namesOf("The same as H940 {Buzi} an Israelite: - Buzi."),
+        QStringList(u"Buzi: Buzi, an Israelite. [H22]"_s));
 }
 
 TEST(ProperNames, aBareReferenceIsNoMeaning) {
