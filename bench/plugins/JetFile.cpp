@@ -8,7 +8,7 @@
 using namespace Qt::StringLiterals;
 
 void writeJet(const QString& dataFile, const QString& path) {
-    JetTableSpec table{
+    JetTableOutline table{
         u"tblMain"_s,
         {{u"ID"_s, JetType::Long, 0, true},
          {u"book"_s, JetType::Integer},

@@ -111,7 +111,7 @@ JetFile::JetFile(const QString& path)
 
 JetFile::~JetFile() = default;
 
-void* JetFile::library() const {
+void* JetFile::handle() const {
     return m_library->handle;
 }
 

@@ -81,7 +81,7 @@ public:
     [[noreturn]] void failForLackOfRows() const;
 
     // The library's own handle, for JetTable.
-    void* library() const;
+    void* handle() const;
 
 private:
     struct Library;

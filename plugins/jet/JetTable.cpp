@@ -54,7 +54,7 @@ JetTable::JetTable(JetFile& file, quint32 page, const QString& name)
     , m_page(page) {
     file.beginTable(name);
     m_definition = std::make_unique<JetDefinition>(file, page);
-    m_library = std::make_unique<Library>(file.library(), page);
+    m_library = std::make_unique<Library>(file.handle(), page);
     if (!m_library->table || !m_library->table->columns
         || m_library->table->columns->len != static_cast<guint>(m_definition->columnCount()))
         file.failAsDamaged(u"its definition cannot be read"_s);

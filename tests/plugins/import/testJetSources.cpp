@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QByteArray jetFile(const QList<QVariantList>& rows) {
-    JetTableSpec table{
+    JetTableOutline table{
         u"tblMain"_s,
         {{u"ID"_s, JetType::Long},
          {u"book"_s, JetType::Long},

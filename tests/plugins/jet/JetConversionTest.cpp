@@ -219,7 +219,7 @@ TEST_F(JetFolders, aDamagedFileLeavesNothingInTheCache) {
 TEST_F(JetFolders, aFullDiskLeavesTheFileAsItWas) {
     if (!disk.mount(160))
         GTEST_SKIP() << "no file system can be mounted here";
-    JetTableSpec verses = verseTable();
+    JetTableOutline verses = verseTable();
     verses.rows[1].values[5] = u"n"_s.repeated(50000);
     JetFixture fixture(JetVersion::Jet4);
     fixture.add(verses);

@@ -7,8 +7,8 @@ class JetCounters : public JetTest {
 protected:
     // A table of topics with these numbers.
     void convert(
-        const QList<JetRowSpec>& rows, qint32 lastNumber, const QString& name = u"tblTopicName"_s,
-        JetVersion version = JetVersion::Jet4) const {
+        const QList<JetRowOutline>& rows, qint32 lastNumber,
+        const QString& name = u"tblTopicName"_s, JetVersion version = JetVersion::Jet4) const {
         JetFixture fixture(version);
         fixture.add(
             {name,
@@ -27,7 +27,7 @@ TEST_F(JetCounters, theNextNumberSurvives) {
 }
 
 TEST_F(JetCounters, numbersOfDeletedLastRowsAreNotGivenAgain) {
-    convert({{{1, u"a"_s}}, {{2, u"b"_s}, JetRowSpec::Deleted}}, 17);
+    convert({{{1, u"a"_s}}, {{2, u"b"_s}, JetRowOutline::Deleted}}, 17);
     EXPECT_EQ(numberOfNewRow(path(), u"tblTopicName"_s), 18);
 }
 
@@ -57,7 +57,7 @@ TEST_F(JetCounters, numbersThatAreThereTwiceStayAsTheyAre) {
 }
 
 TEST_F(JetCounters, versesKeepTheirOrderWhateverTheirNumbers) {
-    JetTableSpec verses = verseTable();
+    JetTableOutline verses = verseTable();
     std::swap(verses.rows[0], verses.rows[3]);
     JetFixture fixture(JetVersion::Jet4);
     fixture.add(verses);

@@ -31,7 +31,7 @@ protected:
     }
 
     // A file with a table of these fields, which has no rows.
-    QByteArray withFields(const QList<JetFieldSpec>& fields) const {
+    QByteArray withFields(const QList<JetFieldOutline>& fields) const {
         JetFixture other(GetParam());
         other.add({u"Table1"_s, fields, {}});
         return other.bytes();
@@ -149,7 +149,7 @@ TEST_P(JetDamage, columnsOfAnUnknownKind) {
 
 TEST_P(JetDamage, aTranslationWithoutOneOfItsFields) {
     for (int field = 0; field < 6; ++field) {
-        JetTableSpec verses = verseTable();
+        JetTableOutline verses = verseTable();
         const QString name = verses.fields[field].name;
         verses.fields[field].name = u"other"_s;
         JetFixture other(GetParam());

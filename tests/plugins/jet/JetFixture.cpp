@@ -41,7 +41,7 @@ JetFixture::JetFixture(JetVersion version, quint32 key, int codePage)
     m_pages[1].replace(0, 2, QByteArray("\1\1", 2));
 }
 
-void JetFixture::add(const JetTableSpec& table) {
+void JetFixture::add(const JetTableOutline& table) {
     m_tables.append(table);
     m_definitions.append(m_pages.add());
     m_dataPages.emplaceBack();
@@ -49,21 +49,21 @@ void JetFixture::add(const JetTableSpec& table) {
     addTable(table, static_cast<int>(m_tables.size()) - 1, m_definitions.last());
 }
 
-int JetFixture::addTable(const JetTableSpec& table, int index, int definitionPage) {
+int JetFixture::addTable(const JetTableOutline& table, int index, int definitionPage) {
     const Layout layout(table);
     JetRowPages rows(m_pages, longBytes(static_cast<quint32>(definitionPage)), index);
     JetRowPages moved(m_pages, longBytes(static_cast<quint32>(definitionPage)), index);
     JetRowPages longValues(m_pages, "LVAL", index);
     qsizetype count = 0;
     for (int row = 0; row < table.rows.size(); ++row) {
-        const JetRowSpec& spec = table.rows[row];
-        const QByteArray bytes = rowBytes(layout, spec, longValues, row);
-        if (spec.fate == JetRowSpec::Moved)
+        const JetRowOutline& outline = table.rows[row];
+        const QByteArray bytes = rowBytes(layout, outline, longValues, row);
+        if (outline.fate == JetRowOutline::Moved)
             rows.add(
                 longBytes(moved.add(bytes, JetRowPages::Hidden, row)), JetRowPages::Pointer, row);
         else
-            rows.add(bytes, spec.fate == JetRowSpec::Deleted ? JetRowPages::Deleted : 0, row);
-        count += spec.fate == JetRowSpec::Deleted ? 0 : 1;
+            rows.add(bytes, outline.fate == JetRowOutline::Deleted ? JetRowPages::Deleted : 0, row);
+        count += outline.fate == JetRowOutline::Deleted ? 0 : 1;
     }
     QList<int> pages = rows.pages() + moved.pages();
     std::ranges::sort(pages);
@@ -98,7 +98,7 @@ JetFixture::definitionBytes(const Layout& layout, quint32 mapPage, qsizetype row
     putLong(bytes, mapPage << 8);
     putLong(bytes, mapPage << 8 | 1);
     for (const Layout::Place& place : layout.places) {
-        const JetFieldSpec& field = place.field;
+        const JetFieldOutline& field = place.field;
         const int size = isFixed(field) ? fixedSize(field.type) : field.size;
         const char flags = char((isFixed(field) ? 1 : 0) | 2 | (field.counter ? 4 : 0));
         const int fixedOffset = isFixed(field) ? place.offset : 0;
@@ -170,7 +170,7 @@ QByteArray JetFixture::mapOnPages(const QList<int>& pages) {
 }
 
 void JetFixture::addCatalogue() {
-    JetTableSpec catalogue{
+    JetTableOutline catalogue{
         u"MSysObjects"_s,
         {{u"Id"_s, JetType::Long},
          {u"ParentId"_s, JetType::Long},

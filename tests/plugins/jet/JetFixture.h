@@ -8,7 +8,7 @@
 
 #include <QVariant>
 
-struct JetFieldSpec {
+struct JetFieldOutline {
     QString name;
     JetType type;
     int size = 0; // of texts and binaries, in bytes
@@ -17,7 +17,7 @@ struct JetFieldSpec {
     int ordinal = -1; // its place in the file's own order; as listed, if not given
 };
 
-struct JetRowSpec {
+struct JetRowOutline {
     enum Fate { Plain, Moved, Deleted };
 
     // QString, or QByteArray for bytes as they are; numbers; Null. Fewer values than fields: a row
@@ -27,10 +27,10 @@ struct JetRowSpec {
     int columns = -1; // that an older row knew of, deleted ones included
 };
 
-struct JetTableSpec {
+struct JetTableOutline {
     QString name;
-    QList<JetFieldSpec> fields;
-    QList<JetRowSpec> rows;
+    QList<JetFieldOutline> fields;
+    QList<JetRowOutline> rows;
     qint32 lastCounter = 0;
     int claimedRows = -1;    // as many as there are, if not given
     quint32 flags = 0;       // in the catalogue
@@ -43,7 +43,7 @@ class JetFixture {
 public:
     explicit JetFixture(JetVersion version, quint32 key = 0, int codePage = 1252);
 
-    void add(const JetTableSpec& table);
+    void add(const JetTableOutline& table);
 
     // The whole file. Once.
     QByteArray bytes();
@@ -57,11 +57,11 @@ public:
 
 private:
     struct Layout; // of a table's rows
-    int addTable(const JetTableSpec& table, int index, int definitionPage);
+    int addTable(const JetTableOutline& table, int index, int definitionPage);
     QByteArray
-    rowBytes(const Layout& layout, const JetRowSpec& spec, JetRowPages& longValues, int row);
-    QByteArray
-    fieldBytes(const JetFieldSpec& field, const QVariant& value, JetRowPages& longValues, int row);
+    rowBytes(const Layout& layout, const JetRowOutline& outline, JetRowPages& longValues, int row);
+    QByteArray fieldBytes(
+        const JetFieldOutline& field, const QVariant& value, JetRowPages& longValues, int row);
     QByteArray longValue(const QByteArray& value, JetRowPages& longValues, int row);
     QByteArray textBytes(const QVariant& value) const;
     QByteArray definitionBytes(const Layout& layout, quint32 mapPage, qsizetype rows) const;
@@ -77,7 +77,7 @@ private:
     int m_codePage;
     JetFormat m_format;
     JetPages m_pages;
-    QList<JetTableSpec> m_tables;
+    QList<JetTableOutline> m_tables;
     QList<int> m_definitions;
     QList<QList<int>> m_dataPages;
     QList<QList<int>> m_longValuePages;

@@ -44,7 +44,7 @@ QByteArray shortTail(const QList<int>& offsets, qsizetype nullBytes) {
 
 } // namespace
 
-bool isFixed(const JetFieldSpec& field) {
+bool isFixed(const JetFieldOutline& field) {
     return field.type != JetType::Text && field.type != JetType::Binary
            && field.type != JetType::Memo && field.type != JetType::Ole
            && field.type != JetType::Bytes;
@@ -71,10 +71,10 @@ int fixedSize(JetType type) {
     }
 }
 
-JetFixture::Layout::Layout(const JetTableSpec& spec)
-    : table(spec) {
-    for (int listed = 0; listed < spec.fields.size(); ++listed) {
-        JetFieldSpec field = spec.fields[listed];
+JetFixture::Layout::Layout(const JetTableOutline& outline)
+    : table(outline) {
+    for (int listed = 0; listed < outline.fields.size(); ++listed) {
+        JetFieldOutline field = outline.fields[listed];
         field.number = field.number < 0 ? listed : field.number;
         field.ordinal = field.ordinal < 0 ? listed : field.ordinal;
         places.append({field, listed, 0});
@@ -88,10 +88,10 @@ JetFixture::Layout::Layout(const JetTableSpec& spec)
 }
 
 QByteArray JetFixture::rowBytes(
-    const Layout& layout, const JetRowSpec& spec, JetRowPages& longValues, int row) {
-    const QVariantList& values = spec.values;
+    const Layout& layout, const JetRowOutline& outline, JetRowPages& longValues, int row) {
+    const QVariantList& values = outline.values;
     const bool isOld = values.size() < layout.table.fields.size();
-    const int known = spec.columns < 0 ? static_cast<int>(values.size()) : spec.columns;
+    const int known = outline.columns < 0 ? static_cast<int>(values.size()) : outline.columns;
     const int columns = isOld ? known : layout.columns();
     QByteArray nullBits((columns + 7) / 8, '\0');
     QByteArray result = m_format.isJet3 ? QByteArray(1, char(columns)) : shortBytes(columns);
@@ -120,7 +120,7 @@ QByteArray JetFixture::rowBytes(
 }
 
 QByteArray JetFixture::fieldBytes(
-    const JetFieldSpec& field, const QVariant& value, JetRowPages& longValues, int row) {
+    const JetFieldOutline& field, const QVariant& value, JetRowPages& longValues, int row) {
     if (value.isNull() || field.type == JetType::Bool)
         return {};
     if (field.type == JetType::Memo || field.type == JetType::Ole)

@@ -37,31 +37,32 @@ struct Source {
     TrueRows trueRows;
 };
 
-QList<JetTableSpec> tables() {
-    JetTableSpec verses = verseTable();
-    const QList<JetRowSpec> some = verses.rows;
+QList<JetTableOutline> tables() {
+    JetTableOutline verses = verseTable();
+    const QList<JetRowOutline> some = verses.rows;
     for (int row = 4; row < 60; ++row) {
-        JetRowSpec spec = some[row % 4];
-        spec.values[0] = row + 1;
-        spec.values[3] = row;
-        spec.values[5] = row % 4 == 0 ? QVariant() : QVariant(u"note %1 "_s.arg(row).repeated(20));
-        spec.values[4] = u"verse %1 of the text "_s.arg(row).repeated(1 + row % 9);
-        spec.fate = row % 11 == 0 ? JetRowSpec::Deleted : spec.fate;
-        verses.rows.append(spec);
+        JetRowOutline outline = some[row % 4];
+        outline.values[0] = row + 1;
+        outline.values[3] = row;
+        outline.values[5] =
+            row % 4 == 0 ? QVariant() : QVariant(u"note %1 "_s.arg(row).repeated(20));
+        outline.values[4] = u"verse %1 of the text "_s.arg(row).repeated(1 + row % 9);
+        outline.fate = row % 11 == 0 ? JetRowOutline::Deleted : outline.fate;
+        verses.rows.append(outline);
     }
     verses.rows[1].values[5] = u"a long note "_s.repeated(300);
     verses.rows[2].values[5] = u"a longer note "_s.repeated(500);
-    JetTableSpec topics{
+    JetTableOutline topics{
         u"tblTopicName"_s,
         {{u"unique"_s, JetType::Long, 0, true}, {u"topicname"_s, JetType::Text, 100}},
-        {{{1, u"Love"_s}}, {{3, u""_s}}, {{4, QVariant()}, JetRowSpec::Deleted}, {{6, u" "_s}}},
+        {{{1, u"Love"_s}}, {{3, u""_s}}, {{4, QVariant()}, JetRowOutline::Deleted}, {{6, u" "_s}}},
         9};
     topics.mapOfPages = true;
-    JetTableSpec wide{u"Wide"_s, {}, {{}, {}, {}}};
+    JetTableOutline wide{u"Wide"_s, {}, {{}, {}, {}}};
     for (int field = 0; field < 120; ++field) {
         const JetType type = static_cast<JetType>(1 + field % 12);
         wide.fields.append({u"a field of many %1"_s.arg(field), type, 50});
-        for (JetRowSpec& row : wide.rows)
+        for (JetRowOutline& row : wide.rows)
             row.values.append(field % 5 == 0 ? QVariant() : QVariant(field));
     }
     return {verses, topics, wide};
@@ -82,7 +83,7 @@ protected:
     void addSource(JetVersion version, quint32 key) {
         JetFixture fixture(version, key);
         QStringList names;
-        for (const JetTableSpec& table : tables()) {
+        for (const JetTableOutline& table : tables()) {
             fixture.add(table);
             names.append(table.name);
         }

@@ -6,15 +6,15 @@ namespace {
 class JetRowsTest : public JetTest, public testing::WithParamInterface<JetVersion> {
 protected:
     // Rows "row 1", "row 2" ... of these fates, behind a text that fills pages.
-    static JetTableSpec table(const QList<JetRowSpec::Fate>& fates) {
-        JetTableSpec result{
+    static JetTableOutline table(const QList<JetRowOutline::Fate>& fates) {
+        JetTableOutline result{
             u"Table1"_s, {{u"text"_s, JetType::Text, 200}, {u"number"_s, JetType::Long}}, {}};
         for (int row = 0; row < fates.size(); ++row)
             result.rows.append({{u"row %1 "_s.arg(row).repeated(10), row}, fates[row]});
         return result;
     }
 
-    QList<qlonglong> numbers(const JetTableSpec& table) const {
+    QList<qlonglong> numbers(const JetTableOutline& table) const {
         JetFixture fixture(GetParam());
         fixture.add(table);
         QList<qlonglong> result;
@@ -28,7 +28,7 @@ INSTANTIATE_TEST_SUITE_P(
     , JetRowsTest, testing::Values(JetVersion::Jet3, JetVersion::Jet4),
     [](const auto& suite) { return suite.param == JetVersion::Jet3 ? "Jet3" : "Jet4"; });
 
-using enum JetRowSpec::Fate;
+using enum JetRowOutline::Fate;
 
 TEST_P(JetRowsTest, deletedRowsStayBehind) {
     EXPECT_EQ(
@@ -43,7 +43,7 @@ TEST_P(JetRowsTest, movedRowsKeepTheirPlace) {
 }
 
 TEST_P(JetRowsTest, rowsOfManyPagesKeepTheirOrder) {
-    QList<JetRowSpec::Fate> fates(500, Plain);
+    QList<JetRowOutline::Fate> fates(500, Plain);
     for (int row = 0; row < 500; row += 7)
         fates[row] = Moved;
     QList<qlonglong> expected;
@@ -53,9 +53,9 @@ TEST_P(JetRowsTest, rowsOfManyPagesKeepTheirOrder) {
 }
 
 TEST_P(JetRowsTest, aMapOnPagesOfItsOwnServesAsWell) {
-    JetTableSpec spec = table(QList<JetRowSpec::Fate>(100, Plain));
-    spec.mapOfPages = true;
-    EXPECT_EQ(numbers(spec).size(), 100);
+    JetTableOutline outline = table(QList<JetRowOutline::Fate>(100, Plain));
+    outline.mapOfPages = true;
+    EXPECT_EQ(numbers(outline).size(), 100);
 }
 
 TEST_P(JetRowsTest, aTableWithoutRowsIsMade) {
@@ -64,52 +64,52 @@ TEST_P(JetRowsTest, aTableWithoutRowsIsMade) {
 }
 
 TEST_P(JetRowsTest, columnsStandInTheOrderOfTheirOrdinals) {
-    JetTableSpec spec{
+    JetTableOutline outline{
         u"Table1"_s,
         {{u"third"_s, JetType::Text, 50, false, 0, 7},
          {u"first"_s, JetType::Long, 0, false, 1, 0},
          {u"second"_s, JetType::Text, 50, false, 2, 3}},
         {{{u"c"_s, 1, u"b"_s}}}};
     JetFixture fixture(GetParam());
-    fixture.add(spec);
+    fixture.add(outline);
     EXPECT_EQ(converted(fixture), QList<QVariantList>({{number(1), u"b"_s, u"c"_s}}));
     EXPECT_EQ(fieldsOf(path(), u"Table1"_s), QStringList({u"first"_s, u"second"_s, u"third"_s}));
 }
 
 TEST_P(JetRowsTest, columnsOfOneOrdinalStandByName) {
-    JetTableSpec spec{
+    JetTableOutline outline{
         u"Table1"_s,
         {{u"b"_s, JetType::Long, 0, false, 0, 4},
          {u"c"_s, JetType::Long, 0, false, 1, 0},
          {u"a"_s, JetType::Long, 0, false, 2, 4}},
         {{{1, 2, 3}}}};
     JetFixture fixture(GetParam());
-    fixture.add(spec);
+    fixture.add(outline);
     converted(fixture);
     EXPECT_EQ(fieldsOf(path(), u"Table1"_s), QStringList({u"c"_s, u"a"_s, u"b"_s}));
 }
 
 TEST_P(JetRowsTest, columnsBehindADeletedOneKeepTheirValues) {
-    JetTableSpec spec{
+    JetTableOutline outline{
         u"Table1"_s,
         {{u"a"_s, JetType::Text, 50, false, 1}, {u"b"_s, JetType::Long, 0, false, 9}},
         {{{u"x"_s, 5}}, {{QVariant(), 6}}, {{u"y"_s, QVariant()}}}};
     JetFixture fixture(GetParam());
-    fixture.add(spec);
+    fixture.add(outline);
     EXPECT_EQ(
         converted(fixture),
         QList<QVariantList>({{u"x"_s, number(5)}, {QVariant(), number(6)}, {u"y"_s, QVariant()}}));
 }
 
 TEST_P(JetRowsTest, aDefinitionOfSeveralPagesIsRead) {
-    JetTableSpec spec{u"Table1"_s, {}, {{}}};
+    JetTableOutline outline{u"Table1"_s, {}, {{}}};
     for (int field = 0; field < 200; ++field) {
-        spec.fields.append(
+        outline.fields.append(
             {u"a field with a long name, and a number %1"_s.arg(field), JetType::Integer});
-        spec.rows[0].values.append(field);
+        outline.rows[0].values.append(field);
     }
     JetFixture fixture(GetParam());
-    fixture.add(spec);
+    fixture.add(outline);
     const QList<QVariantList> rows = converted(fixture);
     ASSERT_EQ(rows.size(), 1);
     EXPECT_EQ(rows[0].size(), 200);
@@ -117,14 +117,14 @@ TEST_P(JetRowsTest, aDefinitionOfSeveralPagesIsRead) {
 }
 
 TEST_P(JetRowsTest, namesMayHoldWhatSqlUses) {
-    JetTableSpec spec{
+    JetTableOutline outline{
         u"my \"table\"; --"_s,
         {{u"unique"_s, JetType::Long}, {u"it's [a] \"field\""_s, JetType::Long}},
         {{{1, 2}}}};
     JetFixture fixture(GetParam());
-    fixture.add(spec);
-    converted(fixture, spec.name);
-    EXPECT_EQ(fieldsOf(path(), spec.name), QStringList({u"unique"_s, u"it's [a] \"field\""_s}));
+    fixture.add(outline);
+    converted(fixture, outline.name);
+    EXPECT_EQ(fieldsOf(path(), outline.name), QStringList({u"unique"_s, u"it's [a] \"field\""_s}));
 }
 
 TEST_P(JetRowsTest, allTablesOfTheUserComeOverAndNoneOfTheEngine) {

@@ -119,9 +119,9 @@ qlonglong numberOfNewRow(const QString& path, const QString& table) {
     return cursor.Fields(0).Value().toLongLong();
 }
 
-JetFixture
-withField(JetVersion version, const JetFieldSpec& field, const QVariantList& values, quint32 key) {
-    JetTableSpec table{u"Table1"_s, {field}, {}};
+JetFixture withField(
+    JetVersion version, const JetFieldOutline& field, const QVariantList& values, quint32 key) {
+    JetTableOutline table{u"Table1"_s, {field}, {}};
     for (const QVariant& value : values)
         table.rows.append({{value}});
     JetFixture fixture(version, key);
@@ -129,7 +129,7 @@ withField(JetVersion version, const JetFieldSpec& field, const QVariantList& val
     return fixture;
 }
 
-JetTableSpec verseTable() {
+JetTableOutline verseTable() {
     const QString red = QChar(30) + u"002 005In the beginning"_s;
     return {
         u"tblMain"_s,
@@ -142,7 +142,7 @@ JetTableSpec verseTable() {
         {{{1, 1, 1, 1, u"In the beginning God created"_s, {}}},
          {{2, 1, 1, 2, u"And the earth was without form"_s,
            u"a note\r\nof two lines, \xe4\xf6\xfc"_s}},
-         {{3, 40, 5, 3, red, u"n"_s.repeated(9000)}, JetRowSpec::Moved},
+         {{3, 40, 5, 3, red, u"n"_s.repeated(9000)}, JetRowOutline::Moved},
          {{4, 66, 22, 21, u"Amen."_s, u" "_s}}},
         4};
 }

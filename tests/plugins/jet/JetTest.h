@@ -55,10 +55,10 @@ qlonglong numberOfNewRow(const QString& path, const QString& table);
 
 // A file with one table "Table1" of one field.
 JetFixture withField(
-    JetVersion version, const JetFieldSpec& field, const QVariantList& values, quint32 key = 0);
+    JetVersion version, const JetFieldOutline& field, const QVariantList& values, quint32 key = 0);
 
 // A translation with a note or two.
-JetTableSpec verseTable();
+JetTableOutline verseTable();
 QByteArray verseFile(JetVersion version = JetVersion::Jet4);
 
 // The text of the Error that the operation throws; empty if it throws none.

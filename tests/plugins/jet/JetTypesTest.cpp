@@ -14,7 +14,7 @@ struct Written {
 class JetTypes : public JetTest, public testing::WithParamInterface<Written> {
 protected:
     // The values of a column of this type, after the conversion.
-    QVariantList column(const JetFieldSpec& field, const QVariantList& values) const {
+    QVariantList column(const JetFieldOutline& field, const QVariantList& values) const {
         QVariantList result;
         for (const QVariantList& row :
              converted(withField(GetParam().version, field, values, GetParam().key)))
@@ -104,7 +104,7 @@ TEST_P(JetTypes, binariesAndObjectsAreBytes) {
 }
 
 TEST_P(JetTypes, manyFieldsOfARowKeepTheirPlaces) {
-    JetTableSpec table{u"Table1"_s, {}, {}};
+    JetTableOutline table{u"Table1"_s, {}, {}};
     QVariantList values;
     for (int field = 0; field < 60; ++field) {
         const bool isText = field % 3 == 0;
@@ -120,7 +120,7 @@ TEST_P(JetTypes, manyFieldsOfARowKeepTheirPlaces) {
 }
 
 TEST_P(JetTypes, aRowThatIsOlderThanAFieldHasNullThere) {
-    JetTableSpec table{
+    JetTableOutline table{
         u"Table1"_s,
         {{u"a"_s, JetType::Long}, {u"b"_s, JetType::Long}, {u"c"_s, JetType::Bool}},
         {{{1, 2, true}}, {{3}}}};
@@ -134,10 +134,10 @@ TEST_P(JetTypes, aRowThatIsOlderThanAFieldHasNullThere) {
 
 // The Null bit of the newer field would lie in the bytes of another row.
 TEST_P(JetTypes, aRowThatIsOlderThanADeletedAndANewerFieldHasNullThere) {
-    JetTableSpec table{
+    JetTableOutline table{
         u"Table1"_s,
         {{u"a"_s, JetType::Long, 0, false, 0}, {u"c"_s, JetType::Long, 0, false, 9}},
-        {{{1, 2}}, {{3}, JetRowSpec::Plain, 2}}};
+        {{{1, 2}}, {{3}, JetRowOutline::Plain, 2}}};
     JetFixture fixture(GetParam().version, GetParam().key);
     fixture.add(table);
     EXPECT_EQ(

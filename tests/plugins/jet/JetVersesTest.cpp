@@ -8,7 +8,7 @@ namespace {
 
 class JetVersesTest : public JetTest {
 protected:
-    void write(const JetTableSpec& table, JetVersion version = JetVersion::Jet4) const {
+    void write(const JetTableOutline& table, JetVersion version = JetVersion::Jet4) const {
         JetFixture fixture(version);
         fixture.add(table);
         JetTest::write(fixture.bytes());
@@ -45,7 +45,7 @@ TEST_F(JetVersesTest, versesComeInTheTablesOrderWithBodyAndNote) {
 }
 
 TEST_F(JetVersesTest, addressesOutsideOfTheBooksAreLeftOutAndNamed) {
-    JetTableSpec table = verseTable();
+    JetTableOutline table = verseTable();
     table.rows[0].values[1] = 67;
     table.rows[3].values[1] = 0;
     write(table);
@@ -57,7 +57,7 @@ TEST_F(JetVersesTest, addressesOutsideOfTheBooksAreLeftOutAndNamed) {
 }
 
 TEST_F(JetVersesTest, theNoteOfAVerseThatIsLeftOutIsNotLost) {
-    JetTableSpec table = verseTable();
+    JetTableOutline table = verseTable();
     table.rows[1].values[1] = 67;
     write(table);
     const QList<Verse> read = verses();
@@ -68,7 +68,7 @@ TEST_F(JetVersesTest, theNoteOfAVerseThatIsLeftOutIsNotLost) {
 }
 
 TEST_F(JetVersesTest, aVerseWithoutTextIsLeftOutUnlessItHasANote) {
-    JetTableSpec table = verseTable();
+    JetTableOutline table = verseTable();
     table.rows[0].values[4] = QVariant();
     table.rows[1].values[4] = u""_s;
     write(table);
@@ -81,32 +81,32 @@ TEST_F(JetVersesTest, aVerseWithoutTextIsLeftOutUnlessItHasANote) {
 }
 
 TEST_F(JetVersesTest, numbersMayBeHeldAsTexts) {
-    JetTableSpec table = verseTable();
+    JetTableOutline table = verseTable();
     table.fields[1] = {u"Book"_s, JetType::Text, 20};
-    for (JetRowSpec& row : table.rows)
+    for (JetRowOutline& row : table.rows)
         row.values[1] = row.values[1].toString();
     write(table);
     EXPECT_EQ(verses()[3].address, (VerseAddress{66, 22, 21}));
 }
 
 TEST_F(JetVersesTest, aTableWithoutNotesHasVersesWithoutNotes) {
-    JetTableSpec table = verseTable();
+    JetTableOutline table = verseTable();
     table.fields.removeLast();
-    for (JetRowSpec& row : table.rows)
+    for (JetRowOutline& row : table.rows)
         row.values.removeLast();
     write(table);
     EXPECT_TRUE(verses()[1].note.isNull());
 }
 
 TEST_F(JetVersesTest, aMissingTableIsAnError) {
-    JetTableSpec table = verseTable();
+    JetTableOutline table = verseTable();
     table.name = u"Verses"_s;
     write(table);
     EXPECT_EQ(errorTextOf([&] { verses(); }), u"kjv.mdb has no table tblMain."_s);
 }
 
 TEST_F(JetVersesTest, aMissingFieldIsAnError) {
-    JetTableSpec table = verseTable();
+    JetTableOutline table = verseTable();
     table.fields[4].name = u"text"_s;
     write(table);
     EXPECT_EQ(
@@ -114,7 +114,7 @@ TEST_F(JetVersesTest, aMissingFieldIsAnError) {
 }
 
 TEST_F(JetVersesTest, missingRowsAreAnErrorAtTheEnd) {
-    JetTableSpec table = verseTable();
+    JetTableOutline table = verseTable();
     table.claimedRows = 31102;
     write(table);
     EXPECT_EQ(
