@@ -1,8 +1,8 @@
 #include "check/Check.h"
 
-#include "basic/Conversion.h"
 #include "basic/Error.h"
 #include "check/DataFileKinds.h"
+#include "check/FieldText.h"
 #include "check/TranslationCheck.h"
 #include "desktop/HostPath.h"
 #include "jet/JetConversion.h"
@@ -16,11 +16,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString textOf(const Field& field) {
-    const QVariant value = field.Value();
-    return isNull(value) ? QString() : toText(value);
-}
 
 void checkVerses(Recordset rows, const TableNeeds& needs, CheckReport& report) {
     rows.Index(needs.index);

@@ -1,7 +1,7 @@
 #include "check/TranslationCheck.h"
 
-#include "basic/Conversion.h"
 #include "basic/Error.h"
+#include "check/FieldText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -13,11 +13,6 @@ constexpr qsizetype PrefixLength = 8;
 constexpr int StartAt = 1;
 constexpr int LengthAt = 5;
 constexpr int Digits = 3;
-
-QString textOf(const Field& field) {
-    const QVariant value = field.Value();
-    return isNull(value) ? QString() : toText(value);
-}
 
 bool redRunFits(const QString& body) {
     bool startIsNumber = false;

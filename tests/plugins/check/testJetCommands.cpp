@@ -1,36 +1,19 @@
 // The tool as a program of its own, on Jet databases: it bounds what its process may take.
+#include "plugins/ToolProcess.h"
 #include "plugins/jet/JetTest.h"
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 
 namespace {
 
-struct Outcome {
-    int exitCode;
-    QString out;
-    QString errors;
-};
-
-class JetCommands : public JetTest {
-protected:
-    Outcome run(const QStringList& arguments) const {
-        QProcess process;
-        process.start(QStringLiteral(LUMENVIA_PLUGINS), arguments);
-        EXPECT_TRUE(process.waitForFinished()) << qPrintable(process.errorString());
-        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-        return {
-            process.exitCode(), QString::fromLocal8Bit(process.readAllStandardOutput()),
-            QString::fromLocal8Bit(process.readAllStandardError())};
-    }
-};
+using JetCommands = JetTest;
 
 } // namespace
 
 TEST_F(JetCommands, convertPrintsThePathToOpenAndNothingElse) {
     write(verseFile());
-    const Outcome outcome = run({u"convert"_s, path()});
+    const ToolRun outcome = startTool({u"convert"_s, path()});
     EXPECT_EQ(outcome.exitCode, 0);
     EXPECT_EQ(outcome.out, path() + u'\n');
     EXPECT_EQ(outcome.errors, QString());
@@ -40,9 +23,9 @@ TEST_F(JetCommands, convertPrintsThePathToOpenAndNothingElse) {
 
 TEST_F(JetCommands, convertLeavesADataFileAsItIs) {
     write(verseFile());
-    run({u"convert"_s, path()});
+    startTool({u"convert"_s, path()});
     const QByteArray before = read();
-    const Outcome outcome = run({u"convert"_s, path()});
+    const ToolRun outcome = startTool({u"convert"_s, path()});
     EXPECT_EQ(outcome.exitCode, 0);
     EXPECT_EQ(outcome.out, path() + u'\n');
     EXPECT_EQ(read(), before);
@@ -52,7 +35,7 @@ TEST_F(JetCommands, convertLeavesADataFileAsItIs) {
 TEST_F(JetCommands, convertSaysWhatIsWrongAndTouchesNothing) {
     const QByteArray damaged = verseFile().left(9000);
     write(damaged);
-    const Outcome outcome = run({u"convert"_s, path()});
+    const ToolRun outcome = startTool({u"convert"_s, path()});
     EXPECT_EQ(outcome.exitCode, 1);
     EXPECT_EQ(outcome.out, QString());
     EXPECT_TRUE(outcome.errors.contains(u"kjv.mdb"_s)) << qPrintable(outcome.errors);
@@ -62,7 +45,7 @@ TEST_F(JetCommands, convertSaysWhatIsWrongAndTouchesNothing) {
 
 TEST_F(JetCommands, checkTellsWhatAConversionWouldGive) {
     write(verseFile());
-    const Outcome outcome = run({u"check"_s, path()});
+    const ToolRun outcome = startTool({u"check"_s, path()});
     EXPECT_TRUE(outcome.out.contains(
         u"  a Jet database, which the program converts when it first opens it\n"
         u"  a translation\n  4 verses"_s))
@@ -73,7 +56,7 @@ TEST_F(JetCommands, checkTellsWhatAConversionWouldGive) {
 
 TEST_F(JetCommands, checkSaysWhatIsWrongWithADamagedOne) {
     write(verseFile().left(9000));
-    const Outcome outcome = run({u"check"_s, path()});
+    const ToolRun outcome = startTool({u"check"_s, path()});
     EXPECT_EQ(outcome.exitCode, 1);
     EXPECT_TRUE(outcome.out.contains(u"  wrong: "_s)) << qPrintable(outcome.out);
 }
@@ -81,7 +64,8 @@ TEST_F(JetCommands, checkSaysWhatIsWrongWithADamagedOne) {
 TEST_F(JetCommands, importTakesAJetDatabaseWithItsNotes) {
     write(verseFile());
     const QString folder = path(u"texts"_s);
-    const Outcome outcome = run({u"import"_s, path(), u"--as"_s, u"kjv"_s, u"--to"_s, folder});
+    const ToolRun outcome =
+        startTool({u"import"_s, path(), u"--as"_s, u"kjv"_s, u"--to"_s, folder});
     EXPECT_EQ(outcome.exitCode, 0) << qPrintable(outcome.errors);
     QStringList notes;
     for (const QVariantList& row : rowsOf(folder + u"/KJV.mdb"_s, u"tblMain"_s)) {
@@ -95,7 +79,8 @@ TEST_F(JetCommands, importTakesAJetDatabaseWithItsNotes) {
 TEST_F(JetCommands, importOfADamagedOneLeavesNothing) {
     write(verseFile().left(9000));
     const QString folder = path(u"texts"_s);
-    const Outcome outcome = run({u"import"_s, path(), u"--as"_s, u"kjv"_s, u"--to"_s, folder});
+    const ToolRun outcome =
+        startTool({u"import"_s, path(), u"--as"_s, u"kjv"_s, u"--to"_s, folder});
     EXPECT_EQ(outcome.exitCode, 1);
     EXPECT_FALSE(outcome.errors.isEmpty());
     EXPECT_EQ(QDir(folder).entryList(QDir::Files | QDir::Hidden), QStringList());
